@@ -1,0 +1,3 @@
+#include "Mandelbrot.h"
+
+void Mandelbrot::EquationName() { g_NameGlg = " "; }

@@ -1,0 +1,3 @@
+#include "Mandelbrot.h"
+
+void Mandelbrot::Berechnung(QPainter* /*Paint*/) {}

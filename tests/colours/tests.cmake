@@ -1,0 +1,1 @@
+# wirbelwerk_test(test_name colours/test_name.cpp)

@@ -1,0 +1,1 @@
+# wirbelwerk_test(test_name equations/test_name.cpp)

@@ -1,0 +1,1 @@
+# wirbelwerk_test(test_name files/test_name.cpp)

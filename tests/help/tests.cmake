@@ -1,0 +1,1 @@
+# wirbelwerk_test(test_name help/test_name.cpp)

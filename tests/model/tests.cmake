@@ -1,0 +1,1 @@
+wirbelwerk_test(test_operationen model/test_operationen.cpp)

@@ -1,0 +1,1 @@
+# wirbelwerk_test(test_name store/test_name.cpp)

@@ -1,0 +1,1 @@
+# wirbelwerk_test(test_name window/test_name.cpp)
