@@ -1,0 +1,5 @@
+#include "model/Einfaerbung.h"
+
+void palettenstreifen(Mandelbrot& /*menge*/, const Bildlauf& /*lauf*/, QImage& /*bild*/) {}
+
+void einfaerben(Mandelbrot& /*menge*/, const Bildlauf& /*lauf*/, QImage& /*bild*/) {}

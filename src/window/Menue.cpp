@@ -1,0 +1,4 @@
+#include "UI_Hauptfenster.h"
+
+void UI::AufbauMenu() {}
+void UI::createActions() {}

@@ -1,0 +1,3 @@
+#include "UI_Hauptfenster.h"
+
+void UI::AufbauLayout() {}
