@@ -23,6 +23,10 @@ class UI : public QMainWindow {
     void AufbauMenu();
     /// Creates the help actions.
     void createActions();
+    /// Repaint and title, the last steps of most slots: requests the paint of the picture, builds
+    /// the title at once and once more when that paint has been handled, because equation name,
+    /// Julia flag and orbit start are only written there.
+    void zeichnenUndTitel();
 
     QWidget* Layout = nullptr;
     Mandelbrot* Menge = nullptr;
@@ -72,7 +76,12 @@ class UI : public QMainWindow {
                 *UI_Matrix = nullptr, *UI_Start = nullptr, *UI_Vorschau = nullptr;
     QLabel *infoLabelPalette = nullptr, *infoLabelCx33 = nullptr, *infoLabelCy33 = nullptr,
            *infoLabel11 = nullptr, *infoLabel22 = nullptr, *infoLabel33 = nullptr;
-    QDateTime dt; ///< time stamp of the file commands
+    QDateTime dt;               ///< time stamp of the file commands
+    bool TitelNachBild = false; ///< the next paint of the picture is followed by a new title
+
+  protected:
+    /// Watches the picture's paint events for zeichnenUndTitel.
+    bool eventFilter(QObject* beobachtet, QEvent* ereignis) override;
 
   public Q_SLOTS:
     // Panel and model (window/Abgleich.cpp)
