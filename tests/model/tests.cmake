@@ -1,1 +1,2 @@
 wirbelwerk_test(test_operationen model/test_operationen.cpp)
+wirbelwerk_test(test_orbitliste model/test_orbitliste.cpp)
