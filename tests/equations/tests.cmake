@@ -1,1 +1,2 @@
-# wirbelwerk_test(test_name equations/test_name.cpp)
+wirbelwerk_test(test_gleichungen equations/test_gleichungen.cpp)
+wirbelwerk_test(test_startwerte equations/test_startwerte.cpp)
