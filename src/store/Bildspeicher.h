@@ -9,34 +9,34 @@
 /// 13 are used; the history arrays hold copies of that row's first 300 entries.
 namespace bildspeicher {
 
-constexpr qint32 Plaetze = 4;           ///< slots: full picture or quarter 1, quarters 2, 3, 4
-constexpr std::size_t PlatzLaenge = 20; ///< entries from one slot to the next
+inline constexpr qint32 Plaetze = 4; ///< slots: full picture or quarter 1, quarters 2, 3, 4
+inline constexpr std::size_t PlatzLaenge = 20; ///< entries from one slot to the next
 
 /// Entries of the integer part. The second, the quarter at saving time, marks the slot as valid
 /// for that quarter: it is compared when a record is loaded, never copied back.
-constexpr std::array GanzeFelder{
+inline constexpr std::array GanzeFelder{
     &Mandelbrot::bilddatenInteger, &Mandelbrot::g_halbesBild,    &Mandelbrot::wahl_Gleichung,
     &Mandelbrot::g_ZwillingJa,     &Mandelbrot::glg_Abbruch,     &Mandelbrot::Max_Iterationen,
     &Mandelbrot::g_JuliaJa,        &Mandelbrot::g_GenauJa,       &Mandelbrot::g_oberesHalbbild,
     &Mandelbrot::g_zycmax,         &Mandelbrot::g_MittelkreuzJa, &Mandelbrot::g_NullkreuzJa,
     &Mandelbrot::g_GitterJa};
-constexpr std::size_t EintragPruefsumme = 0; ///< at least 1 in every saved record
-constexpr std::size_t EintragViertel = 1;
+inline constexpr std::size_t EintragPruefsumme = 0; ///< at least 1 in every saved record
+inline constexpr std::size_t EintragViertel = 1;
 
 /// Entries of the double part.
-constexpr std::array ReelleFelder{&Mandelbrot::bilddatenDouble,
-                                  &Mandelbrot::bilddatenSumme,
-                                  &Mandelbrot::Br_x,
-                                  &Mandelbrot::MP_x,
-                                  &Mandelbrot::MP_y,
-                                  &Mandelbrot::wert_Abbruch,
-                                  &Mandelbrot::Koppl_x,
-                                  &Mandelbrot::Koppl_y,
-                                  &Mandelbrot::g_Genauigkeit,
-                                  &Mandelbrot::CJ_x,
-                                  &Mandelbrot::CJ_y,
-                                  &Mandelbrot::g_Bildverhaeltnis,
-                                  &Mandelbrot::g_Gitterabstand};
+inline constexpr std::array ReelleFelder{&Mandelbrot::bilddatenDouble,
+                                         &Mandelbrot::bilddatenSumme,
+                                         &Mandelbrot::Br_x,
+                                         &Mandelbrot::MP_x,
+                                         &Mandelbrot::MP_y,
+                                         &Mandelbrot::wert_Abbruch,
+                                         &Mandelbrot::Koppl_x,
+                                         &Mandelbrot::Koppl_y,
+                                         &Mandelbrot::g_Genauigkeit,
+                                         &Mandelbrot::CJ_x,
+                                         &Mandelbrot::CJ_y,
+                                         &Mandelbrot::g_Bildverhaeltnis,
+                                         &Mandelbrot::g_Gitterabstand};
 
 /// First entry of the slot of a quarter word (g_halbesBild): up to 1 the first slot, 2 to 4 the
 /// next ones; previews and every other value have none.

@@ -1,1 +1,1 @@
-# wirbelwerk_test(test_name store/test_name.cpp)
+wirbelwerk_test(test_bildspeicher store/test_bildspeicher.cpp)
