@@ -1,12 +1,21 @@
+#include "equations/FormelnReell.h"
+#include "equations/Schritt.h"
 #include "Mandelbrot.h"
 
-double Mandelbrot::IterateZmalZplusC(double, double, double, double) const { return 0.0; }
-double Mandelbrot::IterateZmalZSplusC(double, double, double, double) const { return 0.0; }
-double Mandelbrot::IterateVierpol(double, double, double, double) const { return 0.0; }
-double Mandelbrot::IterateZhZSminus1(double, double, double, double) const { return 0.0; }
-double Mandelbrot::IterateWurzelXXX(double, double, double, double) const { return 0.0; }
-double Mandelbrot::IterateZmalZ_Complex_plusC(double, double, double, double) const { return 0.0; }
-double Mandelbrot::IterateZmalZS_Complex_plusC(double, double, double, double) const { return 0.0; }
-double Mandelbrot::IterateVierpol_Complex(double, double, double, double) const { return 0.0; }
-double Mandelbrot::IterateZhZS_Complex_minus1(double, double, double, double) const { return 0.0; }
-double Mandelbrot::IterateWurzel_Complex(double, double, double, double) const { return 0.0; }
+double Mandelbrot::IterateZmalZplusC(double xqr, double yqr, double Cxqr, double Cyqr) const {
+    if (g_ZwillingJa > ReelleKopplung::Letzte) {
+        g_ZwillingJa = 0;
+    }
+    const Paar<double> c{Cxqr, Cyqr};
+    return gekoppeltIterieren<ReelleKopplung>(*this, Ungebremst<Quadrat>{}, Paar<double>{xqr, yqr},
+                                              c, c);
+}
+
+double Mandelbrot::IterateZmalZSplusC(double xqr, double yqr, double Cxqr, double Cyqr) const {
+    if (g_ZwillingJa == 6) {
+        g_ZwillingJa = 5;
+    }
+    const Paar<double> c{Cxqr, Cyqr};
+    return gekoppeltIterieren<AugenKopplung>(*this, Ungebremst<Auge>{}, Paar<double>{xqr, yqr}, c,
+                                             c);
+}

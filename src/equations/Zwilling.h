@@ -1,0 +1,194 @@
+#pragma once
+
+#include <QtGlobal>
+
+#include <complex>
+
+// The coupling of the twin orbit: the constant that is added to the main value Z comes from the
+// twin value W, the twin's constant from Z. The number type is double or a vector of lanes.
+
+/// A value of the real-arithmetic equations: x + iy without a multiplication.
+template <class T>
+struct Paar {
+    T x;
+    T y;
+};
+
+template <class T>
+[[nodiscard]] constexpr T re(const Paar<T>& z) {
+    return z.x;
+}
+template <class T>
+[[nodiscard]] constexpr T im(const Paar<T>& z) {
+    return z.y;
+}
+template <class T>
+[[nodiscard]] constexpr T re(const std::complex<T>& z) {
+    return z.real();
+}
+template <class T>
+[[nodiscard]] constexpr T im(const std::complex<T>& z) {
+    return z.imag();
+}
+
+/// Variant number of a kernel whose table ends at `letzte`: 0 = off (also for negative numbers), 1
+/// to letzte, and letzte + 1 for all numbers above (the twin runs, both constants stay plain).
+[[nodiscard]] constexpr qint32 zwillingsart(qint32 g_ZwillingJa, qint32 letzte) noexcept {
+    return g_ZwillingJa <= 0 ? 0 : (g_ZwillingJa > letzte ? letzte + 1 : g_ZwillingJa);
+}
+
+/// Coupling of the real-arithmetic kernels, variants 1 to 6. `c` is the plain constant. The sign
+/// patterns of the variants are irregular on purpose.
+struct ReelleKopplung {
+    static constexpr qint32 Letzte = 6;
+
+    qint32 art;    ///< as zwillingsart gives it
+    double px, py; ///< coupling factors
+
+    /// Constant of the main value, from the twin value w.
+    template <class T>
+    [[nodiscard]] constexpr Paar<T> haupt(const Paar<T>& w, const Paar<T>& c) const {
+        const T &p = w.x, &t = w.y;
+        switch (art) {
+        case 1:
+            return {px * p + c.x, py * t + c.y};
+        case 2:
+            return {(1.0 + px * p) * c.x, (1.0 - py * t) * c.y};
+        case 3:
+            return {(1.0 + px * p) * c.x, (1.0 + py * t) * c.y};
+        case 4:
+            return {px * p - py * t + c.x, py * p + px * t + c.y};
+        case 5:
+            return {c.x * px * p - c.y * px * t + c.x, c.y * px * p + c.x * px * t + c.y};
+        case 6:
+            return {c.x * px * p - c.y * px * t + c.x, c.y * py * p + c.x * py * t + c.y};
+        default:
+            return c;
+        }
+    }
+
+    /// Constant of the twin value, from the old main value z.
+    template <class T>
+    [[nodiscard]] constexpr Paar<T> zwilling(const Paar<T>& z, const Paar<T>& c) const {
+        const T &x = z.x, &y = z.y;
+        switch (art) {
+        case 1:
+            return {c.x - px * x, c.y - py * y};
+        case 2:
+            return {(1.0 + px * x) * c.x, (1.0 - py * y) * c.y};
+        case 3:
+            return {(1.0 - px * x) * c.x, (1.0 - py * y) * c.y};
+        case 4:
+            return {c.x - (px * x - py * y), c.y - (px * y + py * x)};
+        case 5:
+            return {c.x - (c.x * px * x - c.y * px * y), c.y - (c.x * px * y + c.y * px * x)};
+        case 6:
+            return {c.x - (c.x * px * x - c.y * px * y), c.y - (c.x * py * y + c.y * py * x)};
+        default:
+            return c;
+        }
+    }
+};
+
+/// Coupling of equations 3 and 4: variant 5 of the main value is C(1 + KW) component by component.
+struct AugenKopplung : ReelleKopplung {
+    template <class T>
+    [[nodiscard]] constexpr Paar<T> haupt(const Paar<T>& w, const Paar<T>& c) const {
+        if (art == 5) {
+            return {(1.0 + (px * w.x - py * w.y)) * c.x, (1.0 + (px * w.y + py * w.x)) * c.y};
+        }
+        return ReelleKopplung::haupt(w, c);
+    }
+};
+
+/// Coupling of the complex kernels, variants 1 to 11. K is std::complex<double> or a complex type
+/// of lanes. Variant 10 differs from 9 only in the twin's sign.
+struct KomplexeKopplung {
+    static constexpr qint32 Letzte = 11;
+
+    qint32 art;    ///< as zwillingsart gives it
+    double px, py; ///< coupling factors
+
+    /// Constant of the main value, from the twin value w.
+    template <class K>
+    [[nodiscard]] constexpr K haupt(const K& w, const K& c) const {
+        switch (art) {
+        case 1:
+        case 2:
+        case 3:
+        case 6:
+            return komplex<K>(ReelleKopplung{art, px, py}.haupt(paar(w), paar(c)));
+        case 4:
+            return c + param<K>() * w;
+        case 5:
+            return c * (b1<K>() + mal(px, w));
+        case 7:
+            return c * (b11<K>() + mal(px, w));
+        case 8:
+            return c * (b1<K>() + param<K>() * w);
+        case 9:
+        case 10:
+            return c * (b11<K>() + param<K>() * w);
+        case 11:
+            return c * (b11<K>() - param<K>() * w);
+        default:
+            return c;
+        }
+    }
+
+    /// Constant of the twin value, from the old main value z.
+    template <class K>
+    [[nodiscard]] constexpr K zwilling(const K& z, const K& c) const {
+        switch (art) {
+        case 1:
+        case 2:
+        case 3:
+        case 6:
+            return komplex<K>(ReelleKopplung{art, px, py}.zwilling(paar(z), paar(c)));
+        case 4:
+            return c - param<K>() * z;
+        case 5:
+            return c * (b1<K>() - mal(px, z));
+        case 7:
+            return c * (b11<K>() - mal(px, z));
+        case 8:
+            return c * (b1<K>() - param<K>() * z);
+        case 9:
+        case 11:
+            return c * (b11<K>() - param<K>() * z);
+        case 10:
+            return c * (b11<K>() + param<K>() * z);
+        default:
+            return c;
+        }
+    }
+
+  private:
+    template <class K>
+    using Zahl = typename K::value_type;
+
+    template <class K>
+    [[nodiscard]] constexpr K param() const {
+        return K(Zahl<K>(px), Zahl<K>(py));
+    }
+    template <class K>
+    [[nodiscard]] static constexpr K b1() {
+        return K(Zahl<K>(1.0), Zahl<K>(0.0));
+    }
+    template <class K>
+    [[nodiscard]] static constexpr K b11() {
+        return K(Zahl<K>(1.0), Zahl<K>(1.0));
+    }
+    template <class K>
+    [[nodiscard]] static constexpr K mal(double faktor, const K& z) {
+        return K(faktor * re(z), faktor * im(z));
+    }
+    template <class K>
+    [[nodiscard]] static constexpr Paar<Zahl<K>> paar(const K& z) {
+        return {re(z), im(z)};
+    }
+    template <class K>
+    [[nodiscard]] static constexpr K komplex(const Paar<Zahl<K>>& z) {
+        return K(z.x, z.y);
+    }
+};
