@@ -83,6 +83,10 @@ class UI : public QMainWindow {
     /// Watches the picture's paint events for zeichnenUndTitel.
     bool eventFilter(QObject* beobachtet, QEvent* ereignis) override;
 
+  private:
+    /// Panel to model, all 20 parameters, then slider, repaint and title.
+    void FeldLesen();
+
   public Q_SLOTS:
     // Panel and model (window/Abgleich.cpp)
     /// Model to panel, all 20 parameter widgets.

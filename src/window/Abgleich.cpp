@@ -1,11 +1,175 @@
-#include "UI_Hauptfenster.h"
+#include "window/Befehle.h"
+#include "window/Parameter.h"
 
-void UI::WerteAktualisierenSlot() {}
-void UI::NeueBerechnungSlot() {}
-void UI::VorschauSlot() {}
-void UI::WerteColorAktualisierenSlot() {}
-void UI::NeueColorBerechnungSlot() {}
-void UI::SetNewTitle() {}
+namespace {
+
+/// The colour parameters, in the order of both directions.
+constexpr std::array<const Parameter*, 8> Farbwerte{
+    Werte::divFactor,    Werte::konvFactor,  Werte::itFactor,    Werte::VarianteDiv,
+    Werte::VarianteKonv, Werte::colorOffset, Werte::zahlfarbtab, Werte::zahlMatrix,
+};
+
+/// Panel to model before the colour parameters. The equation number comes first, since it can
+/// switch the twin.
+constexpr std::array<const Parameter*, 12> LeseFolge{
+    Werte::Gleichung,  Werte::MPx,    Werte::MPy,         Werte::Brx,
+    Werte::Kopplx,     Werte::Kopply, Werte::Iterationen, Werte::wertAbbruch,
+    Werte::glgAbbruch, Werte::CJx,    Werte::CJy,         Werte::click2Zoom,
+};
+
+/// Model to panel, all parameters.
+constexpr std::array<const Parameter*, LeseFolge.size() + Farbwerte.size()> ZeigeFolge{
+    Werte::MPx,         Werte::MPy,         Werte::Brx,          Werte::click2Zoom,
+    Werte::Kopplx,      Werte::Kopply,      Werte::wertAbbruch,  Werte::Iterationen,
+    Werte::CJx,         Werte::CJy,         Werte::divFactor,    Werte::konvFactor,
+    Werte::itFactor,    Werte::VarianteDiv, Werte::VarianteKonv, Werte::Gleichung,
+    Werte::colorOffset, Werte::zahlfarbtab, Werte::glgAbbruch,   Werte::zahlMatrix,
+};
+
+void zeigen(UI& ui, std::span<const Parameter* const> folge) {
+    for (const Parameter* wert : folge) {
+        wert->zeigen(ui);
+    }
+}
+
+void lesen(UI& ui, std::span<const Parameter* const> folge) {
+    for (const Parameter* wert : folge) {
+        wert->lesen(ui);
+    }
+}
+
+constexpr int KleinstesVorschaubild = 10; ///< g_halbesBild: position + 10, or 10, 100, 300, 400
+constexpr int AnzahlViertel = 4;
+constexpr int UeblicherExponent = 10; ///< values that the title does not mention
+constexpr int UeblicheZyklen = 7;
+
+/// How the four previews in full size name themselves.
+struct Vollbildvorschau {
+    int halbesBild;
+    const char* text;
+};
+constexpr std::array<Vollbildvorschau, 4> Vollbildvorschauen{{
+    {10, " Vorschau Vollbild"},
+    {400, " Vorschau Vollb. re/u"},
+    {100, " Vorschau Vollb. li/o"},
+    {300, " Vorschau Vollb. li/u"},
+}};
+
+/// Equation, orbit, power and cycles: the first part of the title.
+QString titelGleichung(const Mandelbrot& m) {
+    QString text;
+    if (m.g_OrbitJa == 0) {
+        text += " >> " + m.g_NameGlg + " <<";
+    }
+    if (m.g_JuliaJa == 1 && m.g_OrbitJa == 0) {
+        text += UI::tr(" (Julia-Verfahren),");
+    }
+    text += m.g_OrbitMP == 1 ? " MP-" : " ";
+    if (m.g_OrbitJa > 0) {
+        text += UI::tr("Orbit bei ") + m.g_OrbitStartString + m.g_OrbitEndString + ",";
+    }
+    if (m.g_OrbitAbIterAn > 0) {
+        text += UI::tr(" Orbit-Anzeige ab Iteration ") + QString::number(m.g_OrbitAbIterAn) + ",";
+    }
+    if (m.g_kPotenz != UeblicherExponent) {
+        text += UI::tr(" Potenz K=") + QString::number(m.g_kPotenz) + ",";
+    }
+    if (m.g_zycmax != UeblicheZyklen) {
+        text += UI::tr(" Zyklen bis ") + QString::number(m.g_zycmax) + ",";
+    }
+    return text;
+}
+
+/// Quarter or preview. The previews in full size name position 0 first: meant.
+QString titelBildlage(const Mandelbrot& m) {
+    QString text;
+    const int lage = m.g_halbesBild;
+    if (lage > 0 && lage <= AnzahlViertel) {
+        text += UI::tr(" 1/4 Bild Nr.") + QString::number(lage);
+    }
+    if (lage >= KleinstesVorschaubild) {
+        text += UI::tr(" Vorschau Nr.") + QString::number(lage % 10);
+    }
+    for (const auto& vorschau : Vollbildvorschauen) {
+        if (vorschau.halbesBild == lage) {
+            text += UI::tr(vorschau.text);
+        }
+    }
+    if (lage > 0 && m.g_VorschauAusJa == 1) {
+        text += UI::tr(" Vorschau Aus");
+    }
+    if (lage == 1) {
+        text += UI::tr(" (Menue Groesse)");
+    }
+    if (lage > 1) {
+        text += ",";
+    }
+    return text;
+}
+
+/// Twin, grid, precision and the part of the picture: the second part of the title.
+QString titelBild(const Mandelbrot& m) {
+    QString text;
+    if (m.g_ZwillingJa > 0) {
+        text += UI::tr(" Zwilling ") + QString::number(m.g_ZwillingJa) + ",";
+    }
+    const QString abstand = QString::number(m.g_Gitterabstand, 'f', 6) + ",";
+    if (m.g_GitterJa == 1) {
+        text += UI::tr(" Grid-Null d= ") + abstand;
+    }
+    if (m.g_GitterJa == 2) {
+        text += UI::tr(" Grid-Central d= ") + abstand;
+    }
+    if (m.g_GenauJa == 1) {
+        text += UI::tr(" Genau= ") + QString::number(m.g_Genauigkeit, 'f', 16) + ",";
+    }
+    text += titelBildlage(m);
+    if (m.g_oberesHalbbild == 1) {
+        text += UI::tr(" Obere Bildhälfte");
+    }
+    if (m.g_oberesHalbbild == 2) {
+        text += UI::tr(" Untere Bildhälfte");
+    }
+    return text;
+}
+
+} // namespace
+
+void UI::WerteAktualisierenSlot() { zeigen(*this, ZeigeFolge); }
+
+void UI::WerteColorAktualisierenSlot() { zeigen(*this, Farbwerte); }
+
+void UI::NeueBerechnungSlot() {
+    // Nothing else here touches the request: an unchanged picture is only coloured anew.
+    if (Menge->g_halbesBild > AnzahlViertel && Menge->g_RechnenJa != befehle::RechnenOderOrbit) {
+        Menge->g_halbesBild %= 10;
+        Menge->g_RechnenJa = befehle::Rechnen;
+    }
+    FeldLesen();
+}
+
+void UI::VorschauSlot() {
+    Menge->g_RechnenJa = befehle::VorschauBild;
+    FeldLesen();
+}
+
+void UI::NeueColorBerechnungSlot() {
+    lesen(*this, Farbwerte);
+    setColShiftSliderSlot();
+    zeichnenUndTitel();
+}
+
+void UI::FeldLesen() {
+    lesen(*this, LeseFolge);
+    lesen(*this, Farbwerte);
+    setColShiftSliderSlot();
+    zeichnenUndTitel();
+}
+
+void UI::SetNewTitle() {
+    setWindowTitle("Wirbelwerk" + Menge->g_Versionsnummer + titelGleichung(*Menge) +
+                   titelBild(*Menge));
+}
 
 void UI::zeichnenUndTitel() {
     update();
