@@ -1,3 +1,4 @@
+#include "colours/Palettenwahl.h"
 #include "Mandelbrot.h"
 #include "Runden.h"
 
@@ -70,6 +71,7 @@ void Mandelbrot::Vorher_Matrix() {
 void Mandelbrot::Erste_Matrix() {
     zahl_Matrix = MatrixEin;
     zahl_farbtab = 0;
+    g_PalettenZahl = palettenZahl(zahl_farbtab);
 }
 
 void Mandelbrot::BildbreiteNeueEckpunkte() {

@@ -1,1 +1,2 @@
-# wirbelwerk_test(test_name colours/test_name.cpp)
+wirbelwerk_test(test_farbwahl colours/test_farbwahl.cpp)
+wirbelwerk_test(test_paletten colours/test_paletten.cpp)
