@@ -1,2 +1,3 @@
+wirbelwerk_test(test_einfaerbung model/test_einfaerbung.cpp)
 wirbelwerk_test(test_operationen model/test_operationen.cpp)
 wirbelwerk_test(test_orbitliste model/test_orbitliste.cpp)
