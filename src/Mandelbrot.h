@@ -1,6 +1,10 @@
 #pragma once
 
+#include "model/Orbitstand.h"
+#include "model/Signatur.h"
 #include "stdafx.h"
+
+#include <optional>
 
 /// The fractal: every parameter and switch of the current picture, the picture buffers, the
 /// palettes, the orbit and the record store; it computes, colours and draws itself.
@@ -138,7 +142,12 @@ class Mandelbrot : public QWidget {
     mutable qint32 OZaehler = 0;   ///< recorded points
     mutable std::array<double, OrbitMax + 2> OrbitX{}, OrbitY{}; ///< [0] start, then the iterates
     double x_itdavor = 0.0, y_itdavor = 0.0;
-    QDateTime dtm; ///< time of the last orbit drawn
+    QDateTime dtm;                          ///< time of the last orbit drawn
+    std::optional<Orbitstand> letzterOrbit; ///< the orbit drawn last, collected in the paths
+
+    // --- What the driver keeps between two paints ------------------------------------------------
+    Signatur SignaturGross, SignaturViertel; ///< of the stored full and matrix picture
+    QImage Bildflaeche;                      ///< picture and palette strip as last drawn
 
     // --- Getters and setters: store and return the field of that name (model/Modell.cpp) ---------
     [[nodiscard]] double get_MP_x() const { return MP_x; }

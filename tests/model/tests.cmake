@@ -1,3 +1,7 @@
+wirbelwerk_test(test_berechnung model/test_berechnung.cpp)
 wirbelwerk_test(test_einfaerbung model/test_einfaerbung.cpp)
+wirbelwerk_test(test_linien model/test_linien.cpp)
+wirbelwerk_test(test_maus model/test_maus.cpp)
 wirbelwerk_test(test_operationen model/test_operationen.cpp)
 wirbelwerk_test(test_orbitliste model/test_orbitliste.cpp)
+wirbelwerk_test(test_platzierung model/test_platzierung.cpp)

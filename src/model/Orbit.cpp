@@ -1,0 +1,222 @@
+#include "model/Orbit.h"
+
+#include "model/Orbitliste.h"
+#include "Runden.h"
+
+#include <algorithm>
+#include <bit>
+
+namespace {
+
+constexpr int ZeichenMax = 256;        ///< most points that are drawn
+constexpr double PfadGrenze = 1000000; ///< pixels; beyond it paths lose precision
+
+enum OrbitArt : qint32 { Dick = 0, Duenn = 1, AlleDick = 20, AlleDuenn = 21, DickLeeren = 200 };
+
+struct Stifte {
+    QColor haupt, c, d, e;
+};
+
+Stifte stifteFuer(qint32 farbe) {
+    const QColor weiss(255, 255, 255);
+    const QColor schwarz(0, 0, 0);
+    const QColor grau(128, 128, 128);
+    const QColor rot(255, 0, 0);
+    switch (farbe) {
+    case 2:
+        return {schwarz, schwarz, schwarz, schwarz};
+    case 3:
+        return {grau, grau, grau, grau};
+    case 4:
+        return {rot, rot, rot, rot};
+    case 5:
+        return {QColor(255, 255, 0), rot, QColor(0, 255, 0), QColor(80, 80, 255)};
+    default:
+        return {weiss, weiss, weiss, weiss};
+    }
+}
+
+/// Pixels for a path; NaN goes to the left or upper edge.
+double pfadPixel(double wert) {
+    return std::isnan(wert) ? -PfadGrenze : std::clamp(wert, -PfadGrenze, PfadGrenze);
+}
+
+/// Maps plane points to pixels of this run.
+struct Abbildung {
+    double startX, startY; ///< start pixel
+    double nullX, nullY;   ///< pixel of the plane's origin
+    double jeX, jeY;       ///< picture size that the plane rectangle is drawn into, pixels
+    double breite, hoehe;  ///< plane rectangle
+
+    Abbildung(const Mandelbrot& m, const Bildlauf& lauf)
+        : startX(static_cast<double>(qint64{lauf.CxStart} + m.OPx)),
+          startY(static_cast<double>(qint64{lauf.CyStart} + m.OPy)), jeX(2.0 * lauf.SpaltenKLHalbe),
+          jeY(2.0 * lauf.ZeilenKLHalbe), breite(m.Br_x), hoehe(m.Br_y) {
+        nullX = (lauf.CxStart + lauf.SpaltenKLHalbe) - std::trunc(jeX * m.MP_x / breite);
+        nullY = std::trunc(jeY * m.MP_y / hoehe) + lauf.CyStart + lauf.ZeilenKLHalbe;
+    }
+
+    [[nodiscard]] double x(double wert) const {
+        return pfadPixel(std::trunc(jeX * wert / breite) + nullX);
+    }
+    [[nodiscard]] double y(double wert) const {
+        return pfadPixel(nullY - std::trunc(jeY * wert / hoehe));
+    }
+};
+
+/// Recorded points up to the end mark, at most ZeichenMax.
+std::size_t punktzahl(const Mandelbrot& m) {
+    std::size_t n = 0;
+    while (n < ZeichenMax && !(m.OrbitX[n + 1] == Mandelbrot::OrbitEnde &&
+                               m.OrbitY[n + 1] == Mandelbrot::OrbitEnde)) {
+        ++n;
+    }
+    return n;
+}
+
+Orbitstand standVon(const Mandelbrot& m, const Abbildung& abb, std::size_t n) {
+    const auto bits = [](double wert) { return std::bit_cast<quint64>(wert); };
+    Orbitstand stand;
+    for (std::size_t i = 0; i <= n; ++i) {
+        stand.punkte.push_back(bits(m.OrbitX[i]));
+        stand.punkte.push_back(bits(m.OrbitY[i]));
+    }
+    stand.geometrie = {bits(abb.startX), bits(abb.startY), bits(abb.nullX),  bits(abb.nullY),
+                       bits(abb.jeX),    bits(abb.jeY),    bits(abb.breite), bits(abb.hoehe)};
+    stand.einstellungen = {m.g_OrbitJa, m.g_OrbitDuennJa, m.g_maxOrbitIterat, m.g_OrbitMP,
+                           m.g_OrbitAbIterAn};
+    return stand;
+}
+
+/// The polygon through the orbit, shifted by whole pixels.
+void anhaengen(QPainterPath& pfad, const Mandelbrot& m, const Abbildung& abb, std::size_t n, int dx,
+               int dy) {
+    pfad.moveTo(pfadPixel(abb.startX) + dx, pfadPixel(abb.startY) + dy);
+    for (std::size_t i = 1; i <= n; ++i) {
+        pfad.lineTo(abb.x(m.OrbitX[i]) + dx, abb.y(m.OrbitY[i]) + dy);
+    }
+}
+
+void leerenWennVerlangt(Mandelbrot& m) {
+    if (m.g_OrbitDuennJa < DickLeeren) {
+        return;
+    }
+    for (QPainterPath* pfad :
+         {&m.polygonPathM1, &m.polygonPathM2, &m.polygonPathM3, &m.polygonPathM4}) {
+        *pfad = QPainterPath();
+    }
+    m.g_OrbitDuennJa = m.g_OrbitDuennJa == DickLeeren ? Dick : Duenn;
+    m.letzterOrbit.reset();
+}
+
+void sammeln(Mandelbrot& m, const Abbildung& abb, std::size_t n) {
+    anhaengen(m.polygonPathM1, m, abb, n, 0, 0);
+    anhaengen(m.polygonPathM2, m, abb, n, 1, 1);
+    anhaengen(m.polygonPathM3, m, abb, n, 1, 0);
+    anhaengen(m.polygonPathM4, m, abb, n, 0, 1);
+}
+
+void malen(QPainter& maler, const QPainterPath& pfad, const QColor& farbe) {
+    maler.setPen(QPen(farbe));
+    maler.drawPath(pfad);
+}
+
+void pfadeMalen(const Mandelbrot& m, const Abbildung& abb, std::size_t n, QPainter& maler) {
+    const Stifte stifte = stifteFuer(m.g_OrbitJa);
+    const auto dieserOrbit = [&](int dx, int dy) {
+        QPainterPath pfad;
+        anhaengen(pfad, m, abb, n, dx, dy);
+        return pfad;
+    };
+    if (m.g_OrbitDuennJa < AlleDick) {
+        malen(maler, dieserOrbit(0, 0), stifte.haupt);
+    } else if (m.g_OrbitDuennJa == AlleDick || m.g_OrbitDuennJa == AlleDuenn) {
+        malen(maler, m.polygonPathM1, stifte.haupt);
+    }
+    if (m.g_OrbitDuennJa == Dick) {
+        malen(maler, dieserOrbit(1, 1), stifte.c);
+        malen(maler, dieserOrbit(1, 0), stifte.d);
+        malen(maler, dieserOrbit(0, 1), stifte.e);
+    } else if (m.g_OrbitDuennJa == AlleDick) {
+        malen(maler, m.polygonPathM2, stifte.c);
+        malen(maler, m.polygonPathM3, stifte.d);
+        malen(maler, m.polygonPathM4, stifte.e);
+    }
+}
+
+QString listeVon(const Mandelbrot& m, const Abbildung& abb, std::size_t n) {
+    Orbitlistendaten daten{
+        .zeit = m.dtm,
+        .version = m.g_Versionsnummer,
+        .gleichung = m.g_NameGlg,
+        .mittelX = m.MP_x,
+        .mittelY = m.MP_y,
+        .breite = m.Br_x,
+        .maxIterationen = m.Max_Iterationen,
+        .maxZyklen = m.g_zycmax,
+        .abbruch = m.glg_Abbruch,
+        .abbruchwert = m.wert_Abbruch,
+        .zwilling = m.g_ZwillingJa,
+        .kopplX = m.Koppl_x,
+        .kopplY = m.Koppl_y,
+        .juliaX = m.CJ_x,
+        .juliaY = m.CJ_y,
+        .potenz = m.g_kPotenz,
+        .vomMittelpunkt = m.g_OrbitMP > 0,
+        .maxPunkte = m.g_maxOrbitIterat,
+        .startX = m.OrbitX[0],
+        .startY = m.OrbitY[0],
+        .abIteration = m.g_OrbitAbIterAn,
+        .punkte = {},
+    };
+    for (std::size_t i = 1; i <= n; ++i) {
+        daten.punkte.push_back(
+            {m.OrbitX[i], m.OrbitY[i], trunc32(abb.x(m.OrbitX[i])), trunc32(abb.y(m.OrbitY[i]))});
+    }
+    return orbitliste(daten);
+}
+
+} // namespace
+
+bool istOrbitStart(const Mandelbrot& menge, const Bildlauf& lauf, qint32 spalte, qint32 zeile) {
+    return menge.Orbitmodus == 1 && spalte == qint64{lauf.CxStart} + menge.OPx &&
+           zeile == qint64{lauf.CyStart} + menge.OPy;
+}
+
+void orbitBeginnen(Mandelbrot& menge, Bildlauf& lauf, Kernwerte& werte) {
+    menge.pathExist = 2;
+    lauf.orbitDraw = true;
+    // The sum of both parts decides, not the modulus, so a start value on the line y = -x counts
+    // as zero: meant.
+    const bool vomStartwert = std::abs(werte.wertx0 + werte.werty0) > 0.0;
+    double& x = vomStartwert ? werte.wertx0 : werte.wertCx;
+    double& y = vomStartwert ? werte.werty0 : werte.wertCy;
+    if (menge.g_OrbitMP == 1) {
+        x = menge.MP_x;
+        y = menge.MP_y;
+    }
+    menge.OZaehler = 0;
+    menge.OrbitX[0] = x;
+    menge.OrbitY[0] = y;
+    menge.OrbitX[1] = menge.OrbitY[1] = Mandelbrot::OrbitEnde;
+    menge.g_OrbitStartString = orbitstart(x, y, lauf.CxStart + menge.OPx, lauf.CyStart + menge.OPy);
+}
+
+void orbitZeichnen(Mandelbrot& menge, const Bildlauf& lauf) {
+    leerenWennVerlangt(menge);
+    const Abbildung abb(menge, lauf);
+    const std::size_t n = punktzahl(menge);
+    menge.dtm = QDateTime::currentDateTime();
+
+    Orbitstand stand = standVon(menge, abb, n);
+    const bool neu = menge.letzterOrbit != stand;
+    if (neu) {
+        sammeln(menge, abb, n);
+        menge.letzterOrbit = std::move(stand);
+    }
+    menge.g_OrbitListeHTMStr = listeVon(menge, abb, n);
+    pfadeMalen(menge, abb, n, *lauf.maler);
+    if (neu) {
+        menge.click2_Zoom = 1.0;
+    }
+}

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QtGlobal>
+
+/// Sizes that a placement is made of, pixels: the whole picture, its half, the preview.
+struct Bildmasse {
+    qint64 W = 0, H = 0;
+    qint64 w = 0, h = 0;
+    qint64 pX = 0, pY = 0;
+};
+
+/// Columns [x0, x1) and rows [y0, y1).
+struct Rechteck {
+    qint64 x0 = 0, x1 = 0, y0 = 0, y1 = 0;
+
+    bool operator==(const Rechteck&) const = default;
+};
+
+/// A picture mode above 9 is a preview.
+[[nodiscard]] constexpr bool istVorschau(qint32 halbesBild) { return halbesBild > 9; }
+
+/// Picture mode after the request is taken up: a computation turns a preview into its picture,
+/// request 3 turns a full or quarter picture into the preview at the same place.
+[[nodiscard]] constexpr qint32 modusNachAnforderung(qint32 halbesBild, qint32 rechnenJa) {
+    if (halbesBild > 99) {
+        return rechnenJa == 1 ? 0 : halbesBild;
+    }
+    if (rechnenJa == 1 && istVorschau(halbesBild)) {
+        return halbesBild % 10;
+    }
+    return rechnenJa == 3 && halbesBild < 5 ? halbesBild + 10 : halbesBild;
+}
+
+/// Where the picture of a mode is placed, cut to the whole picture: full 0, quarters 1 to 4,
+/// previews 10 to 14, 100, 300, 400. The whole plane rectangle is drawn into it. An unknown mode
+/// gets the halved size top left when it is positive, else the full picture.
+[[nodiscard]] Rechteck platzierung(qint32 halbesBild, const Bildmasse& masse);
