@@ -1,0 +1,426 @@
+#include "help/Hilfetexte.h"
+
+#include <QtGlobal>
+
+namespace {
+
+constexpr Hilfetext KomplexeZahlen{QT_TRANSLATE_NOOP("UI", "Komplexe Zahlen"),
+                                   QT_TRANSLATE_NOOP("UI", R"html(<b>Zahlen mit zwei Teilen</b><br>
+Eine gewöhnliche Zahl ist ein Punkt auf einer Geraden. Eine komplexe Zahl Z ist ein Punkt in einer
+Ebene: x zählt nach rechts (Realteil), y nach oben (Imaginärteil). Geschrieben wird sie mit dem
+Zeichen i, dessen Quadrat -1 ist:<br>
+&nbsp;&nbsp;&nbsp;<b>Z = x + i*y</b><br>
+&nbsp;&nbsp;&nbsp;i*i = -1<br>
+Z = 3 + 2i liegt also drei Schritte rechts vom Nullpunkt und zwei Schritte darüber.<br>
+<br>
+<b>Rechnen</b><br>
+Beim Addieren werden beide Teile für sich addiert; das verschiebt den Punkt. Beim Multiplizieren
+wird wie gewohnt jedes Glied mit jedem malgenommen und i*i durch -1 ersetzt. Für das Quadrat und
+für den Abstand vom Nullpunkt heißt das:<br>
+&nbsp;&nbsp;&nbsp;<b>Z*Z = (x*x - y*y) + i*(2*x*y)</b><br>
+&nbsp;&nbsp;&nbsp;|Z| = sqrt(x*x + y*y)<br>
+Anschaulich: Das Quadrat verdoppelt den Winkel und quadriert den Abstand. Multiplizieren dreht und
+streckt, und aus lauter Drehungen und Streckungen entstehen die Wirbel in den Bildern.<br>
+<br>
+<b>Die Konjugierte ZS</b><br>
+ZS ist das Spiegelbild von Z an der waagrechten Achse; nur das Vorzeichen von y ändert sich:<br>
+&nbsp;&nbsp;&nbsp;<b>ZS = x - i*y</b><br>
+&nbsp;&nbsp;&nbsp;Z*ZS = x*x + y*y<br>
+Das Produkt Z*ZS hat keinen Imaginärteil und ist nie negativ: Es ist der Abstand zum Quadrat. In
+den Namen der Gleichungen steht Zq für Z*Z und Zm für Z*ZS.<br>
+<br>
+<b>C, das Raster des Bildes</b><br>
+Das Bild ist ein Ausschnitt dieser Ebene, und jeder Bildpunkt steht für eine Zahl C. „Mittelpkt. X“
+und „Mittelpkt. Y“ nennen die Bildmitte, das Feld darunter die Breite. Von einem Bildpunkt zum
+nächsten ändert sich C nach rechts und nach unten um denselben Schritt:<br>
+&nbsp;&nbsp;&nbsp;Schritt = Breite / Zahl der Bildspalten<br>
+Je kleiner die Breite, desto stärker die Vergrößerung.)html")};
+
+constexpr Hilfetext Fraktale{
+    QT_TRANSLATE_NOOP("UI", "Die Mandelbrotmenge als Beispiel"),
+    QT_TRANSLATE_NOOP("UI", R"html(<b>Eine Rechenregel, immer wieder</b><br>
+Ein Fraktal entsteht aus einer einfachen Regel, deren Ergebnis stets wieder eingesetzt wird. Die
+Regel der Mandelbrotmenge lautet:<br>
+&nbsp;&nbsp;&nbsp;<b>Z = Z*Z + C</b>, am Anfang Z = 0<br>
+Jeder Bildpunkt ist eine komplexe Zahl C. Für jeden wird die Regel wiederholt (iteriert). Drei
+Beispiele:<br>
+&nbsp;&nbsp;&nbsp;C = 1: &nbsp;0, 1, 2, 5, 26, ... &nbsp;wächst über alle Grenzen<br>
+&nbsp;&nbsp;&nbsp;C = -1: &nbsp;0, -1, 0, -1, ... &nbsp;pendelt für immer<br>
+&nbsp;&nbsp;&nbsp;C = -0.5: &nbsp;0, -0.5, -0.25, -0.4375, ... &nbsp;kommt bei -0.366 zur Ruhe<br>
+Bleibt Z für immer in der Nähe, gehört C zur Mandelbrotmenge (konvergent). Läuft Z davon, liegt C
+außerhalb (divergent), und die Farbe zeigt, wie schnell. Am Rand entscheidet ein Hauch über das eine
+oder das andere; darum findet sich dort in jeder Vergrößerung Neues.<br>
+<br>
+<b>Das Startbild</b> reicht von C(-2.5, 2) links oben bis C(1.5, -2) rechts unten, wenn es
+quadratisch ist. Ist es breiter als hoch, fehlt oben und unten gleich viel. Ein Klick vergrößert um
+den angeklickten Punkt, mit Zoom = 0.5 auf die halbe Breite.<br>
+<br>
+<b>Fixpunkte und Zyklen</b><br>
+Im herzförmigen Hauptkörper strebt Z zu einem Fixpunkt. In der Kreisscheibe links davon, um C = -1,
+wechselt Z zwischen zwei Werten, in den kleineren Knospen zwischen drei, vier oder mehr. Der
+Orbit-Modus zeichnet solche Zyklen, NrAbbruch 4 und 5 färben danach.<br>
+<br>
+<b>Warum ZahlAbbr = 400?</b><br>
+Gerechnet wird höchstens bis maxIter, am Anfang 256. Vorher bricht die Rechnung ab, sobald<br>
+&nbsp;&nbsp;&nbsp;rq = x*x + y*y<br>
+ZahlAbbr erreicht. Bei dieser Gleichung würde 4 genügen: Wer weiter als 2 vom Nullpunkt entfernt
+ist, kehrt nicht zurück. Der Vorgabewert 400, also Abstand 20, kostet nur wenige Schritte mehr. Dafür
+fällt C neben Z*Z kaum noch ins Gewicht, und die aus rq gebildeten Farben verlaufen weicher.<br>
+<br>
+<b>Juliamengen</b><br>
+Hält man C fest und beginnt mit Z an jedem Bildpunkt, entsteht eine Juliamenge, zu jedem C eine
+andere. Ein Klick in die Mandelbrotmenge trägt den Punkt bei „C-Julia X“ und „C-Julia Y“ ein; danach
+Gleichung 2 wählen.)html")};
+
+constexpr Hilfetext SpezialFraktale{
+    QT_TRANSLATE_NOOP("UI", "Was ist hier anders?"),
+    QT_TRANSLATE_NOOP("UI", R"html(<b>Rückkopplung untersuchen</b><br>
+Wirbelwerk will nicht nur schöne Bilder zeigen, sondern zeigen, woher sie kommen. Überall, wo ein
+Ergebnis wieder zur Ursache wird, beim Wetter, in Regelkreisen, beim Pfeifen von Mikrofon und
+Lautsprecher, liegt Rückkopplung vor. Hier ist sie auf eine Zeile verkürzt:<br>
+&nbsp;&nbsp;&nbsp;<b>neues Z = f(altes Z, C)</b><br>
+98 solche Gleichungen stehen zur Wahl. Alle Einstellungen bleiben beim Wechsel der Gleichung
+erhalten; so wird sichtbar, was an einem Bild von der Gleichung kommt und was vom Rest.<br>
+<br>
+<b>Gleichungen mit der Konjugierten ZS = x - i*y</b><br>
+Wird ein Z durch sein Spiegelbild ZS ersetzt, entstehen ganz andere Formen:<br>
+&nbsp;&nbsp;&nbsp;Z = Z*ZS + C &nbsp;(Auge)<br>
+&nbsp;&nbsp;&nbsp;Z = Z^ZS + C &nbsp;(Spinne)<br>
+&nbsp;&nbsp;&nbsp;Z = (Z+C)/(1+C*Z*ZS) &nbsp;(Dreipol-Auge)<br>
+<br>
+<b>Das Zwillingsverfahren</b><br>
+Neben Z läuft ein zweiter Wert W nach derselben Gleichung, der Zwilling. Jeder verändert die
+Konstante des anderen, mit der Stärke koppX und koppY. Schon ein kleiner Wert wie 0.01 kann ein Bild
+verbiegen oder aufbrechen. Elf Kopplungen stehen im Menü „Zwillinge/Twins“.<br>
+<br>
+<b>Kreuze und Raster</b><br>
+Mittelkreuz, Nullkreuz und Raster („Linien/Lines“) machen das Bild zur Landkarte. Der Abstand der
+Rasterlinien ist der Wert von Zoom; mit Zoom = 0.5 liegt alle 0.5 eine Linie, gezählt ab dem
+Nullpunkt oder ab der Bildmitte.<br>
+<br>
+<b>Der Orbit-Modus</b><br>
+Er zeigt, was in einem einzelnen Bildpunkt geschieht: den Weg von Z, Schritt für Schritt, als
+Linienzug über dem Bild und auf Wunsch als Zahlenliste.<br>
+<br>
+<b>Farben ohne neue Rechnung</b><br>
+Zu jedem Bildpunkt bleiben der letzte Wert rq und die Zahl der Schritte gespeichert. Darum lassen
+sich Paletten, Varianten und Faktoren wechseln, ohne neu zu rechnen; die 4x4-Matrix stellt sechzehn
+Farbtafeln nebeneinander.)html")};
+
+constexpr Hilfetext Gleichungen{QT_TRANSLATE_NOOP("UI", "Zur Auswahl der Gleichung"),
+                                QT_TRANSLATE_NOOP("UI", R"html(<b>Wählen</b><br>
+Eine Gleichung wird im Menü „Gleichung/Equation“ gewählt oder als Nummer oben im Bedienfeld
+eingetragen und mit „Start!“ gerechnet. Alle anderen Einstellungen werden übernommen, auch Ausschnitt
+und Farben; so lassen sich Gleichungen vergleichen. Ist nichts Rechtes zu sehen, hilft
+„Datei/Reset zum Startbild der Gleichung“.<br>
+<br>
+<b>1 bis 10: in Komponenten</b>, mit den reellen Zahlen x und y gerechnet
+<table cellspacing="0" cellpadding="1">
+<tr><td>1, 2:&nbsp;</td><td>Z=Z*Z+C &nbsp;(Mandelbrot)</td>
+<td>&nbsp;&nbsp;&nbsp;7:&nbsp;</td><td>Z=Z^ZS+C &nbsp;(Spinne)</td></tr>
+<tr><td>3, 4:</td><td>Z=Z*ZS+C &nbsp;(Auge)</td>
+<td>&nbsp;&nbsp;&nbsp;8:</td><td>Z=Z^ZS-1 &nbsp;(Schädel)</td></tr>
+<tr><td>5, 6:</td><td>Z=(Z+C)/(1+C*Z^3) &nbsp;(Vierpol)</td>
+<td>&nbsp;&nbsp;&nbsp;9, 10:&nbsp;</td><td>dritte Wurzel nach Newton</td></tr>
+</table>
+<br><br>
+<b>Ab 101: mit komplexen Zahlen.</b> Die letzten zwei Ziffern nennen die Familie, die Hunderter das
+Mitglied. 101 gibt dasselbe Bild wie 1, kennt aber elf statt sechs Zwillinge.
+<table cellspacing="0" cellpadding="1">
+<tr><td>..01, ..02:&nbsp;</td><td>Z=Z^2+C bis Z=Z^5+C und Z=Z^K+C</td></tr>
+<tr><td>..03, ..04:</td><td>Auge: Z=Z*ZS+C und höhere Potenzen</td></tr>
+<tr><td>..05, ..06:</td><td>Pole: Z=(Z+C)/(1+C*Z^n)</td></tr>
+<tr><td>..07, ..08:</td><td>Exponenten: Z=Z^ZS+C, Z=Z^Z+C und andere</td></tr>
+<tr><td>..09:</td><td>Newton: Z=Z-(Z^n-1)/(n*Z^(n-1)*P), mit P = koppX + i*koppY</td></tr>
+<tr><td>..10:</td><td>Newton: Z=Z-(Z^n-P)/(n*Z^(n-1)*C)</td></tr>
+<tr><td>..11, ..12:</td><td>Pol-Auge: Z=(Z+C)/(1+C*Zm), mit Zm=Z*ZS, und andere</td></tr>
+</table>
+<br><br>
+<b>Gerade Nummern rechnen Juliamengen:</b> Z beginnt am Bildpunkt, und C ist fest („C-Julia X“,
+„C-Julia Y“). Ein Klick in ein Bild mit ungerader Nummer trägt dort den angeklickten Punkt ein. Bei
+2, 4, 6, 102, 104 und 106 verlangt das Menü ein C, das nicht 0 ist. Ungerade Nummern beginnen mit
+Z = 0 und nehmen den Bildpunkt als C; nur Newton beginnt immer am Bildpunkt.<br>
+<br>
+<b>Die Potenz K</b> gilt für Gleichungen mit K im Namen, Standard ist 10. „Potenzzahl K=Zoom“ setzt
+den ganzzahligen Teil von Zoom ein. „K gerade“ und „K ungerade“ im Namen beachten. Ein K ungleich 10
+steht im Titel.<br>
+<br>
+<b>Vier Viertelbilder</b><br>
+„Groesse/Size“ rechnet mit „1/4 Bild Pos.1“ bis „Pos.4“ vier Bilder in ein Fenster; das Startbild
+ist Pos.1. Jede Position merkt sich ihre Einstellungen, Farben gelten für alle vier. „Aktives zum
+vollem Bild/FullPicture“ rechnet das letzte groß.)html")};
+
+constexpr Hilfetext Berechnung{
+    QT_TRANSLATE_NOOP(
+        "UI", "Wählbare Variable für den Iterations-Abbruch, Ermittlung von rq bei ZahlAbbr"),
+    QT_TRANSLATE_NOOP("UI", R"html(<b>Wann ist ein Bildpunkt fertig?</b><br>
+Nach jedem Schritt wird aus Z = x + i*y eine Zahl rq gebildet. Gerechnet wird weiter, solange gilt:<br>
+&nbsp;&nbsp;&nbsp;<b>rq &lt; ZahlAbbr</b> &nbsp;und&nbsp; Zahl der Schritte &lt; maxIter<br>
+Wer ZahlAbbr zuerst erreicht, heißt divergent, wer maxIter zuerst erreicht, konvergent. Der letzte
+Wert rq bleibt gespeichert und steht für die Farben bereit. Bei einem Zwilling zählt nur Z, nie
+W.<br>
+<br>
+<b>Wie rq gebildet wird, bestimmt NrAbbruch:</b>
+<table cellspacing="0" cellpadding="1">
+<tr><td>0:&nbsp;</td><td>rq = sqrt(x*x + y*y)</td>
+<td>&nbsp;&nbsp;&nbsp;Abstand vom Nullpunkt</td></tr>
+<tr><td>1:</td><td>rq = x*x + y*y</td>
+<td>&nbsp;&nbsp;&nbsp;Abstand zum Quadrat, die übliche Wahl</td></tr>
+<tr><td>2:</td><td>rq = |x| + |y|</td>
+<td>&nbsp;&nbsp;&nbsp;Grenze ist ein Quadrat, das auf der Spitze steht</td></tr>
+<tr><td>3:</td><td>rq = x + y</td>
+<td>&nbsp;&nbsp;&nbsp;Grenze ist eine schräge Gerade; negative Summen brechen nie ab</td></tr>
+<tr><td>4:</td><td>rq = 100 + 2*Farben*delta/Genau</td>
+<td>&nbsp;&nbsp;&nbsp;sucht Zyklen: wie genau schließt sich der Kreis?</td></tr>
+<tr><td>5:</td><td>rq = 100 + Zyklen*Skal</td>
+<td>&nbsp;&nbsp;&nbsp;sucht Zyklen: wie lang ist der Kreis?</td></tr>
+<tr><td>6:</td><td>rq = x*x - y*y</td>
+<td>&nbsp;&nbsp;&nbsp;Grenze ist eine Hyperbel</td></tr>
+<tr><td>7:</td><td>rq = (x*x - y*y)^2</td>
+<td>&nbsp;&nbsp;&nbsp;Hyperbeln in alle vier Richtungen</td></tr>
+<tr><td>8:</td><td>rq = (x*x - y*y)^3</td>
+<td>&nbsp;&nbsp;&nbsp;wie 6, die Grenze rückt näher an den Nullpunkt</td></tr>
+<tr><td>9:</td><td>rq = (x*x - y*y)^4</td>
+<td>&nbsp;&nbsp;&nbsp;wie 7, die Grenze rückt näher an den Nullpunkt</td></tr>
+</table>
+<br><br>
+<b>Zyklen suchen mit 4 und 5</b><br>
+Jedes neue Z wird mit den Werten vorher verglichen, mit dem jüngsten zuerst; ZyklusZahl (Standard 7,
+höchstens 24) sagt, wie weit zurück. Ein Zyklus ist gefunden, wenn<br>
+&nbsp;&nbsp;&nbsp;delta = |x - xAlt| + |y - yAlt| &lt; Genau<br>
+mit Genau = 0.0001 als Standard. Farben ist die Zahl der Farben der Palette, Skal = Farben/ZyklusZahl
+ohne Rest. Die Fixpunkte um Null haben die Zykluszahl 1. Ohne Fund läuft der Punkt bis maxIter und
+behält rq = 0; auch Punkte, die davonlaufen, zählen hier also zum Inneren.<br>
+Ein Fund beendet die Rechnung nur, wenn sein rq ZahlAbbr erreicht. Soll das nicht sein: ZahlAbbr
+erhöhen oder verdoppeln (Standard = 400). Dann laufen auch diese Punkte bis maxIter, und varKonv färbt
+sie nach rq. Mehr Iterationen und ein größeres Genau finden mehr Zyklen.)html")};
+
+constexpr Hilfetext Zwilling{
+    QT_TRANSLATE_NOOP("UI", "Zum Zwillingsverfahren siehe auch %1"),
+    QT_TRANSLATE_NOOP("UI", R"html(<b>Zwei Bahnen, die einander stören</b><br>
+Neben Z = x + i*y läuft nach derselben Gleichung ein Zwilling W = p + i*t. Beide beginnen am gleichen
+Punkt. In jedem Schritt tritt an die Stelle von C = Cx + i*Cy für Z die Größe A, gebildet aus W, und
+für W die Größe A', gebildet aus dem alten Z. Beispiel Gleichung 101:<br>
+&nbsp;&nbsp;&nbsp;<b>Z = Z*Z + A</b>, &nbsp;&nbsp;<b>W = W*W + A'</b><br>
+Wie stark, bestimmen koppX und koppY, zusammen P = koppX + i*koppY. Sind beide 0, ändern die
+Zwillinge 1 bis 6 und 8 nichts; 7, 9, 10 und 11 nehmen dann C*(1+i).<br>
+<br>
+<b>Die elf Kopplungen</b>
+<table cellspacing="0" cellpadding="1">
+<tr><td></td><td><b>für Z: A</b></td><td><b>für den Zwilling W: A'</b></td></tr>
+<tr><td>1:&nbsp;</td><td>(Cx + koppX*p) + i*(Cy + koppY*t)&nbsp;&nbsp;&nbsp;</td>
+<td>(Cx - koppX*x) + i*(Cy - koppY*y)</td></tr>
+<tr><td>2:</td><td>(1 + koppX*p)*Cx + i*(1 - koppY*t)*Cy&nbsp;&nbsp;&nbsp;</td>
+<td>(1 + koppX*x)*Cx + i*(1 - koppY*y)*Cy</td></tr>
+<tr><td>3:</td><td>(1 + koppX*p)*Cx + i*(1 + koppY*t)*Cy&nbsp;&nbsp;&nbsp;</td>
+<td>(1 - koppX*x)*Cx + i*(1 - koppY*y)*Cy</td></tr>
+<tr><td>4:</td><td>C + P*W</td><td>C - P*Z</td></tr>
+<tr><td>5:</td><td>C*(1 + koppX*W)</td><td>C*(1 - koppX*Z)</td></tr>
+<tr><td>6:</td><td>(Cx + koppX*Re(C*W)) + i*(Cy + koppY*Im(C*W))&nbsp;&nbsp;&nbsp;</td>
+<td>(Cx - koppX*Re(C*Z)) + i*(Cy - koppY*Im(C*Z))</td></tr>
+<tr><td>7:</td><td>C*(1+i + koppX*W)</td><td>C*(1+i - koppX*Z)</td></tr>
+<tr><td>8:</td><td>C*(1 + P*W)</td><td>C*(1 - P*Z)</td></tr>
+<tr><td>9:</td><td>C*(1+i + P*W)</td><td>C*(1+i - P*Z)</td></tr>
+<tr><td>10:&nbsp;</td><td>C*(1+i + P*W)</td><td>C*(1+i + P*Z)</td></tr>
+<tr><td>11:&nbsp;</td><td>C*(1+i - P*W)</td><td>C*(1+i - P*Z)</td></tr>
+</table>
+Re und Im sind Real- und Imaginärteil.<br>
+<br>
+<b>Was wo gilt</b><br>
+Gleichungen 1 bis 10 kennen nur 1 bis 6. Bei 1 und 2 schaltet eine höhere Zahl den Zwilling ab. Bei
+3 und 4 wird aus 6 die 5, und diese rechnet für Z die Teile einzeln:<br>
+&nbsp;&nbsp;&nbsp;A = (1 + Re(P*W))*Cx + i*(1 + Im(P*W))*Cy<br>
+Bei 7 und 8 gilt immer 1. Ab 101 gelten alle elf; nur die Newton-Gleichungen 109 bis 910 haben keinen Zwilling, ihnen dienen koppX und koppY als P.<br>
+<br>
+<b>Bedienen</b><br>
+Das Einschalten setzt ein koppX oder koppY, das 0 ist, auf den Wert von Zoom. Die Nummer der
+Gleichung trägt den Zwilling mit sich: 1010004 ist Gleichung 101 mit Zwilling 4.)html")};
+
+constexpr Hilfetext Orbit{
+    QT_TRANSLATE_NOOP("UI",
+                      "Orbit: Der Weg von Z zwischen den Iterationen, eingeblendet als Polygon"),
+    QT_TRANSLATE_NOOP("UI", R"html(<b>Was ein Orbit zeigt</b><br>
+Die Farbe eines Bildpunkts sagt nur, wie seine Rechnung endet. Der Orbit zeigt den Weg dorthin: Jedes
+neue Z ist ein Punkt der Ebene, und gerade Linien verbinden diese Punkte der Reihe nach.<br>
+&nbsp;&nbsp;&nbsp;<b>Start, Z1, Z2, Z3, ...</b><br>
+Der Linienzug beginnt am gewählten Bildpunkt. Bei Gleichungen, die mit Z = 0 anfangen, ist das der
+Punkt C. Beim Zwilling wird der Weg von Z gezeichnet, nicht der von W.<br>
+<br>
+<b>Woran man was erkennt</b><br>
+&nbsp;&nbsp;&nbsp;Spirale in einen Punkt: ein Fixpunkt<br>
+&nbsp;&nbsp;&nbsp;Stern oder Vieleck, immer wieder durchlaufen: ein Zyklus mit so vielen Ecken<br>
+&nbsp;&nbsp;&nbsp;Linien, die das Bild verlassen: ein divergenter Punkt<br>
+Nahe am Rand der Menge irrt der Weg oft lange umher, ehe er sich entscheidet.<br>
+<br>
+<b>Einschalten und klicken</b><br>
+Menü „Linien/Lines“: „Orbit EIN“ in Weiß, Schwarz, Grau, Rot oder Bunt. Das geht im Vollbild und im
+Viertelbild, nicht in der Vorschau. Danach wählt jeder Klick einen neuen Startpunkt; vergrößert wird
+nicht. Mit „Orbit-Start vom Bild-Mittelpunkt“ beginnt der Weg genau in der Bildmitte. So lässt sich
+ein Startpunkt auf alle Stellen genau eingeben und auch bei anderer Vergrößerung verfolgen.<br>
+<br>
+<b>Mehr oder weniger zeigen</b><br>
+&nbsp;&nbsp;&nbsp;„Linien dünn-dick“: dünne oder dicke Linien<br>
+&nbsp;&nbsp;&nbsp;„maximal 120“ bis „maximal 5“: weniger Punkte statt der vollen 256<br>
+&nbsp;&nbsp;&nbsp;„Orbit erst ab Iterat.(= ZOOM)“: überspringt den Anfang des Weges<br>
+&nbsp;&nbsp;&nbsp;„Alle Orbit anzeigen“: sammelt alle Wege, bis der Speicher gelöscht wird<br>
+<br>
+<b>Die Werte als Liste</b><br>
+„Datei/Letzten Orbit als Liste in HTML-Seite speichern“ schreibt alle gezeigten Punkte mit sechzehn
+Stellen nach dem Komma und mit ihrer Lage im Bild in eine Datei. Darin lassen sich Zyklen Stelle für
+Stelle nachlesen.<br>
+<br>
+<b>Ausschalten</b><br>
+„Orbit AUS/STOP“. Auch ein geänderter Ausschnitt kann den angeklickten Orbit abschalten; eine Meldung
+sagt es. Nach jedem neuen Orbit steht Zoom auf 1; das Ausschalten setzt 0.5.)html")};
+
+constexpr Hilfetext FarbTab{
+    QT_TRANSLATE_NOOP("UI",
+                      "Wählbare Farb-Tabellen mit vielen Farbvertauschungen, ohne neue Rechnung"),
+    QT_TRANSLATE_NOOP("UI", R"html(<b>Vom Ergebnis zur Farbe</b><br>
+varDiv oder varKonv machen aus jedem Ergebnis eine Farbzahl. Sie zählt in der Palette ab; nach der
+letzten Farbe folgt wieder die erste:<br>
+&nbsp;&nbsp;&nbsp;<b>Platz = cOffset + Fakt.Iter * Farbzahl</b><br>
+cOffset verschiebt alle Farben, auch mit dem Schieber. Nichts davon rechnet das Bild neu. Der
+Streifen rechts neben dem Bild zeigt die Palette.<br>
+<br>
+<b>cTab wählt Palette und Variante</b><br>
+Vier Paletten mit je zwölf Varianten, nach der Nummer cTab:
+<span style="white-space:pre">cTab 0-11, 12-23,  24-32, 36-47</span>
+<table cellspacing="0" cellpadding="1">
+<tr><td>Palette 1:&nbsp;</td><td>512 Spektralfarben, ab cTab = 0</td>
+<td>&nbsp;&nbsp;&nbsp;Palette 3:&nbsp;</td><td>582 aus 6 Hauptfarben, ab cTab = 24</td></tr>
+<tr><td>Palette 2:&nbsp;</td><td>582 aus 3 Hauptfarben, ab cTab = 12</td>
+<td>&nbsp;&nbsp;&nbsp;Palette 4:&nbsp;</td><td>256, weniger bunt, ab cTab = 36</td></tr>
+</table>
+<br><br>
+<b>Die Reduktionen</b><br>
+zahl_Tab ist die Variante 0 bis 11 der Palette, also cTab modulo 12. R11, G11, B11 sind Rot, Grün und Blau der Farbe,
+~R11 ist 255 - R11. Vor dem Vertauschen gilt (bei 0 geschieht nichts):<br>
+if (zahl_Tab == 1) { R11 = ~R11; G11 = ~G11; B11 = ~B11; }
+<table cellspacing="0" cellpadding="1">
+<tr><td>if (zahl_Tab == 2) R11 = 128;&nbsp;&nbsp;&nbsp;</td>
+<td>if (zahl_Tab == 3) G11 = 128;&nbsp;&nbsp;&nbsp;</td><td>if (zahl_Tab == 4) B11 = 128;</td></tr>
+<tr><td>if (zahl_Tab == 5) R11 = 0;</td><td>if (zahl_Tab == 6) G11 = 0;</td>
+<td>if (zahl_Tab == 7) B11 = 0;</td></tr>
+<tr><td>if (zahl_Tab == 8) R11 = 255;</td><td>if (zahl_Tab == 9) G11 = 255;</td>
+<td>if (zahl_Tab == 10) B11 = 255;</td></tr>
+<tr><td>if (zahl_Tab == 11) G11 = 80;</td><td></td><td></td></tr>
+</table>
+<br><br>
+<b>Die 4x4-Matrix</b> zeigt sechzehn Vertauschungen zugleich. Die Zelle nennt, welche Werte zu Rot,
+Grün, Blau werden (hier kurz R, G, B):
+<table cellspacing="0" cellpadding="1">
+<tr><td>11: Vergleich&nbsp;&nbsp;&nbsp;&nbsp;</td><td>12: R B G&nbsp;&nbsp;&nbsp;&nbsp;</td>
+<td>13: G R B&nbsp;&nbsp;&nbsp;&nbsp;</td><td>14: G B R</td></tr>
+<tr><td>21: Vergleich</td><td>22: B R G</td><td>23: B G R</td><td>24: ~R B G</td></tr>
+<tr><td>31: Vergleich</td><td>32: G ~R B&nbsp;&nbsp;&nbsp;&nbsp;</td>
+<td>33: ~G B ~R&nbsp;&nbsp;&nbsp;&nbsp;</td><td>34: B R ~G</td></tr>
+<tr><td>41: Vergleich</td><td>42: B ~G R</td><td>43: ~B R G</td><td>44: B G ~R</td></tr>
+</table>
+Die linke Spalte zeigt ohne Reduktion die Palette selbst, vertauscht, umgekehrt oder grau. Ein Klick
+auf eine Zelle macht sie zum Einzelbild; „cTab/Matrix +1“ führt zur Matrix und dann zum nächsten
+cTab.)html")};
+
+constexpr Hilfetext Div{
+    QT_TRANSLATE_NOOP("UI", "Wählbare Variante für die Color-Berechnung im divergente Bereich, "
+                            "zusammen mit dem Divergenz-Faktor FacDiv"),
+    QT_TRANSLATE_NOOP("UI", R"html(<b>Der divergente Bereich</b><br>
+Divergent heißt ein Bildpunkt, dessen Rechnung vor maxIter abbricht, bei der Mandelbrotmenge also
+alles außerhalb. Zwei Zahlen bleiben von ihm übrig:<br>
+&nbsp;&nbsp;&nbsp;<b>n</b>: nach wie vielen Schritten war Schluss?<br>
+&nbsp;&nbsp;&nbsp;<b>rq</b>: wie weit ging der letzte Schritt über die Grenze ZahlAbbr?<br>
+n springt von Ring zu Ring um 1 und gibt scharfe Streifen. rq ändert sich im Ring stetig und gibt
+weiche Übergänge. varDiv bestimmt, was davon zur Farbzahl wird; FacDiv dehnt oder staucht den
+Farbverlauf.<br>
+<br>
+<b>Die Varianten varDiv</b> (ln ist der natürliche Logarithmus, Nachkommastellen entfallen)
+<table cellspacing="0" cellpadding="1">
+<tr><td>0:&nbsp;</td><td>alles schwarz</td>
+<td>&nbsp;&nbsp;&nbsp;&nbsp;&nbsp;&nbsp;10:&nbsp;</td><td>ln(rq) * FacDiv / 6</td></tr>
+<tr><td>1:</td><td>alles weiß</td>
+<td>&nbsp;&nbsp;&nbsp;&nbsp;&nbsp;&nbsp;11:&nbsp;</td><td>2 * ln(rq) * FacDiv</td></tr>
+<tr><td>2:</td><td>n</td>
+<td>&nbsp;&nbsp;&nbsp;&nbsp;&nbsp;&nbsp;12:&nbsp;</td><td>sin(rq) * FacDiv</td></tr>
+<tr><td>3:</td><td>2 * n</td>
+<td>&nbsp;&nbsp;&nbsp;&nbsp;&nbsp;&nbsp;13:&nbsp;</td><td>1000 * FacDiv / rq</td></tr>
+<tr><td>4:</td><td>5 * n</td>
+<td>&nbsp;&nbsp;&nbsp;&nbsp;&nbsp;&nbsp;14:&nbsp;</td><td>ZahlAbbr * 1000 * FacDiv / rq</td></tr>
+<tr><td>5:</td><td>10 * n</td>
+<td>&nbsp;&nbsp;&nbsp;&nbsp;&nbsp;&nbsp;15:&nbsp;</td><td>ZahlAbbr * ZahlAbbr * FacDiv / rq</td></tr>
+<tr><td>6:</td><td>FacDiv * n</td>
+<td>&nbsp;&nbsp;&nbsp;&nbsp;&nbsp;&nbsp;16:&nbsp;</td><td>sqrt(FacDiv * rq)</td></tr>
+<tr><td>7:</td><td>rq / FacDiv</td>
+<td>&nbsp;&nbsp;&nbsp;&nbsp;&nbsp;&nbsp;17:&nbsp;</td><td>sqrt(FacDiv * rq / 5)</td></tr>
+<tr><td>8:</td><td>ln(rq) * FacDiv</td>
+<td>&nbsp;&nbsp;&nbsp;&nbsp;&nbsp;&nbsp;18:&nbsp;</td><td>sqrt(FacDiv * rq / 20)</td></tr>
+<tr><td>9:</td><td>ln(rq) * FacDiv / 3</td><td></td><td></td></tr>
+</table>
+<br><br>
+<b>Zum Ausprobieren</b><br>
+Am Anfang gilt varDiv = 8 mit FacDiv = 100. Der Logarithmus zähmt die großen Unterschiede von rq: Ob
+rq 400 oder 100000 ist, ergibt 599 oder 1151. Mit 2 bis 6 sieht man die Ringe gleicher Schrittzahl,
+am besten mit Palette 1 oder 3. Bei 7 wirkt FacDiv umgekehrt: Ein großer Wert ergibt wenige
+Farben. 12 schwankt zwischen -FacDiv und FacDiv und gibt feine
+Muster.<br>
+„varDiv +1“ und „varDiv -1“ laufen im Kreis von 0 bis 18; eine eingetippte größere Zahl wirkt wie 8.
+Die Farbzahl darf jede Größe haben: Am Ende der Palette beginnt sie von vorn. Neu gerechnet wird
+dabei nichts.)html")};
+
+constexpr Hilfetext Konv{
+    QT_TRANSLATE_NOOP("UI", "Wählbare Variante für die Color-Berechnung im konvergenten Bereich, "
+                            "zusammen mit dem Konvergenz-Faktor FacKonv"),
+    QT_TRANSLATE_NOOP("UI", R"html(<b>Der konvergente Bereich</b><br>
+Konvergent heißt hier ein Bildpunkt, dessen Rechnung bis maxIter läuft, ohne ZahlAbbr zu erreichen:
+das Innere der Mandelbrotmenge. Oft wird es einfach schwarz gemalt. Doch auch dort bleibt ein letzter
+Wert rq, und der erzählt, wo Z zur Ruhe gekommen ist:<br>
+&nbsp;&nbsp;&nbsp;<b>n</b> = maxIter, für alle diese Punkte gleich<br>
+&nbsp;&nbsp;&nbsp;<b>rq</b>: der letzte Wert, meist eine kleine Zahl<br>
+Strebt Z zu einem Fixpunkt, wechselt die Farbe von Punkt zu Punkt weich. In einem Zyklus hängt rq
+davon ab, bei welchem seiner Werte maxIter erreicht war. FacKonv dehnt oder staucht den
+Farbverlauf.<br>
+<br>
+<b>Die Varianten varKonv</b> (ln ist der natürliche Logarithmus, Nachkommastellen entfallen)
+<table cellspacing="0" cellpadding="1">
+<tr><td>0:&nbsp;</td><td>alles schwarz</td>
+<td>&nbsp;&nbsp;&nbsp;&nbsp;&nbsp;&nbsp;7:&nbsp;</td><td>ln(rq) * FacKonv</td></tr>
+<tr><td>1:</td><td>alles weiß</td>
+<td>&nbsp;&nbsp;&nbsp;&nbsp;&nbsp;&nbsp;8:</td><td>10 * FacKonv * ln(rq)</td></tr>
+<tr><td>2:</td><td>FacKonv * n</td>
+<td>&nbsp;&nbsp;&nbsp;&nbsp;&nbsp;&nbsp;9:</td><td>100 * FacKonv * ln(rq)</td></tr>
+<tr><td>3:</td><td>FacKonv * rq</td>
+<td>&nbsp;&nbsp;&nbsp;&nbsp;&nbsp;&nbsp;10:&nbsp;</td><td>ln(rq) * FacKonv / 10</td></tr>
+<tr><td>4:</td><td>5 * FacKonv * rq</td>
+<td>&nbsp;&nbsp;&nbsp;&nbsp;&nbsp;&nbsp;11:&nbsp;</td><td>FacKonv / rq</td></tr>
+<tr><td>5:</td><td>10 * FacKonv * rq</td>
+<td>&nbsp;&nbsp;&nbsp;&nbsp;&nbsp;&nbsp;12:&nbsp;</td><td>sqrt(FacKonv * rq)</td></tr>
+<tr><td>6:</td><td>100 * FacKonv * rq</td><td></td><td></td></tr>
+</table>
+<br><br>
+<b>Besondere Werte, zum Eintippen</b><br>
+&nbsp;&nbsp;&nbsp;13 bis 999 wirken wie 4.<br>
+&nbsp;&nbsp;&nbsp;1000 zeichnet das Innere nicht; es bleibt stehen, was dort zu sehen war.<br>
+&nbsp;&nbsp;&nbsp;Ab 1001 wird das Innere einfarbig, mit Farbzahl = varKonv - 1000.<br>
+<br>
+<b>Zum Ausprobieren</b><br>
+Am Anfang gilt varKonv = 3 mit FacKonv = 100. Variante 2 gibt eine einzige Farbe, die sich mit
+FacKonv wählen lässt. 7 bis 10 spreizen sehr kleine rq, wie sie nahe bei Null entstehen; ihre
+Logarithmen sind negativ, die Palette wird dann rückwärts durchlaufen.<br>
+Besonders lohnend ist NrAbbruch 4 oder 5 mit größerem ZahlAbbr: Dann sagt rq, ob ein Zyklus gefunden
+wurde, und bei 5 bekommt jede Zykluslänge ihre eigene Farbe. „varKonv +1“ und „varKonv -1“ laufen im
+Kreis von 0 bis 12. Neu gerechnet wird dabei nichts.)html")};
+
+} // namespace
+
+// Filled in the order of Hilfethema.
+const Hilfetabelle g_HilfeDeutsch = {
+    KomplexeZahlen, Fraktale, SpezialFraktale, Gleichungen, Berechnung,
+    Zwilling,       Orbit,    FarbTab,         Div,         Konv};
+
+const Hilfetext g_HilfeAutor = {QT_TRANSLATE_NOOP("UI", "About Menu"),
+                                QT_TRANSLATE_NOOP("UI", R"html(<b>Wirbelwerk %2</b><br>
+<br>
+Ein Fraktal-Explorer: Mandelbrotmenge, Juliamengen und rund hundert verwandte Gleichungen,
+mit Zwillingsverfahren, Orbit-Modus und vielen Farbtafeln.<br>
+<br>
+Autoren: die Entwickler von Wirbelwerk<br>
+Im Netz: %1)html")};

@@ -1,0 +1,413 @@
+#include "help/Hilfetexte.h"
+
+#include <QtGlobal>
+
+namespace {
+
+constexpr Hilfetext ComplexNumbers{QT_TRANSLATE_NOOP("UI", "Complex numbers"),
+                                   QT_TRANSLATE_NOOP("UI", R"html(<b>Numbers with two parts</b><br>
+An ordinary number is a point on a line. A complex number Z is a point in a plane: x counts to the
+right (real part), y counts upward (imaginary part). It is written with the symbol i, whose square
+is -1:<br>
+&nbsp;&nbsp;&nbsp;<b>Z = x + i*y</b><br>
+&nbsp;&nbsp;&nbsp;i*i = -1<br>
+So Z = 3 + 2i lies three steps to the right of the origin and two steps above it.<br>
+<br>
+<b>Calculating</b><br>
+To add two numbers, add each part by itself; this shifts the point. To multiply them, multiply every
+term with every other as usual and replace i*i by -1. For the square, and for the distance from the
+origin, this gives:<br>
+&nbsp;&nbsp;&nbsp;<b>Z*Z = (x*x - y*y) + i*(2*x*y)</b><br>
+&nbsp;&nbsp;&nbsp;|Z| = sqrt(x*x + y*y)<br>
+Seen as a picture: squaring doubles the angle and squares the distance. Multiplication turns and
+stretches, and the whirls in the pictures are made of nothing but turning and stretching.<br>
+<br>
+<b>The conjugate ZS</b><br>
+ZS is the mirror image of Z at the horizontal axis; only the sign of y changes:<br>
+&nbsp;&nbsp;&nbsp;<b>ZS = x - i*y</b><br>
+&nbsp;&nbsp;&nbsp;Z*ZS = x*x + y*y<br>
+The product Z*ZS has no imaginary part and is never negative: it is the distance squared. In the
+names of the equations, Zq stands for Z*Z and Zm for Z*ZS.<br>
+<br>
+<b>C, the grid of the picture</b><br>
+The picture is a section of this plane, and every pixel stands for one number C. "CenterX" and
+"CenterY" give the middle of the picture, the field below them its width. From one pixel to the
+next, to the right and downward alike, C changes by the same step:<br>
+&nbsp;&nbsp;&nbsp;step = width / number of picture columns<br>
+The smaller the width, the stronger the magnification.)html")};
+
+constexpr Hilfetext Fractals{QT_TRANSLATE_NOOP("UI", "The Mandelbrot set as an example"),
+                             QT_TRANSLATE_NOOP("UI", R"html(<b>One rule, over and over again</b><br>
+A fractal grows out of a simple rule whose result is put back in, again and again. The rule of the
+Mandelbrot set is:<br>
+&nbsp;&nbsp;&nbsp;<b>Z = Z*Z + C</b>, starting with Z = 0<br>
+Every pixel is a complex number C. For each of them the rule is repeated (iterated). Three
+examples:<br>
+&nbsp;&nbsp;&nbsp;C = 1: &nbsp;0, 1, 2, 5, 26, ... &nbsp;grows beyond all bounds<br>
+&nbsp;&nbsp;&nbsp;C = -1: &nbsp;0, -1, 0, -1, ... &nbsp;swings to and fro for ever<br>
+&nbsp;&nbsp;&nbsp;C = -0.5: &nbsp;0, -0.5, -0.25, -0.4375, ... &nbsp;comes to rest at -0.366<br>
+If Z stays nearby for ever, C belongs to the Mandelbrot set (convergent). If Z runs away, C lies
+outside (divergent), and the color shows how fast. On the border a trifle decides between the two;
+that is why something new turns up there at every magnification.<br>
+<br>
+<b>The start picture</b> reaches from C(-2.5, 2) at the top left to C(1.5, -2) at the bottom right
+when it is square. If it is wider than high, the same amount is missing at the top and at the
+bottom. A click magnifies around the clicked point, with Zoom = 0.5 to half the width.<br>
+<br>
+<b>Fixed points and cycles</b><br>
+In the heart-shaped main body, Z tends to a fixed point. In the disc to its left, around C = -1, Z
+alternates between two values, in the smaller buds between three, four or more. The orbit mode draws
+such cycles, and NrAbbruch 4 and 5 color by them.<br>
+<br>
+<b>Why ZahlAbbr = 400?</b><br>
+At most maxIter steps are made, 256 at the start. The calculation stops earlier as soon as<br>
+&nbsp;&nbsp;&nbsp;rq = x*x + y*y<br>
+reaches ZahlAbbr, the bailout value. For this equation 4 would do: whatever is farther than 2 from
+the origin does not come back. The default of 400, a distance of 20, costs only a few more steps. In
+return, C hardly counts beside Z*Z any more, and colors made from rq run more smoothly.<br>
+<br>
+<b>Julia sets</b><br>
+Keep C fixed and let Z start at every pixel, and you get a Julia set, a different one for each C. A
+click into the Mandelbrot set puts the point into "C-Julia X" and "C-Julia Y"; then choose
+equation 2.)html")};
+
+constexpr Hilfetext SpecialFractals{QT_TRANSLATE_NOOP("UI", "What is different here?"),
+                                    QT_TRANSLATE_NOOP("UI", R"html(<b>Exploring feedback</b><br>
+Wirbelwerk wants to show not only beautiful pictures but also where they come from. Wherever a result
+becomes a cause again, in the weather, in a thermostat, in the howl of microphone and loudspeaker,
+there is feedback. Here it is cut down to a single line:<br>
+&nbsp;&nbsp;&nbsp;<b>new Z = f(old Z, C)</b><br>
+There are 98 such equations to choose from. All settings are kept when you change the equation; so
+you can see what in a picture comes from the equation and what from the rest.<br>
+<br>
+<b>Equations with the conjugate ZS = x - i*y</b><br>
+Put the mirror image ZS in the place of a Z, and quite different shapes appear:<br>
+&nbsp;&nbsp;&nbsp;Z = Z*ZS + C &nbsp;("Auge", the eye)<br>
+&nbsp;&nbsp;&nbsp;Z = Z^ZS + C &nbsp;("Spinne", the spider)<br>
+&nbsp;&nbsp;&nbsp;Z = (Z+C)/(1+C*Z*ZS) &nbsp;("Dreipol-Auge", the three-pole eye)<br>
+<br>
+<b>The twin method</b><br>
+Beside Z runs a second value W, its twin, by the same equation. Each changes the constant of the
+other, with the strength koppX and koppY. Even a small value such as 0.01 can bend a picture or break
+it open. The menu "Zwillinge/Twins" offers eleven couplings.<br>
+<br>
+<b>Crosses and grid</b><br>
+Center cross, zero cross and grid (menu "Linien/Lines") turn the picture into a map. The distance
+between the grid lines is the value of Zoom: with Zoom = 0.5 there is a line every 0.5, counted from
+the origin or from the center of the picture.<br>
+<br>
+<b>The orbit mode</b><br>
+It shows what happens in a single pixel: the path of Z, step by step, as a polygon on top of the
+picture and, if you like, as a list of numbers.<br>
+<br>
+<b>Colors without a new calculation</b><br>
+For every pixel the last value rq and the number of steps are kept. So palettes, variants and factors
+can be changed without calculating again; the 4x4 matrix puts sixteen color tables side by
+side.)html")};
+
+constexpr Hilfetext Equations{QT_TRANSLATE_NOOP("UI", "To select the equation"),
+                              QT_TRANSLATE_NOOP("UI", R"html(<b>Choosing</b><br>
+Choose an equation in the menu "Gleichung/Equation", or type its number at the top of the control
+panel and press "Start!". All other settings are carried over, section and colors included, so that
+equations can be compared. If there is nothing much to see, use "Datei/File", "Reset zum Startbild
+der Gleichung": it brings back the start picture of the equation.<br>
+<br>
+<b>1 to 10: in components</b>, calculated with the real numbers x and y
+<table cellspacing="0" cellpadding="1">
+<tr><td>1, 2:&nbsp;</td><td>Z=Z*Z+C &nbsp;(Mandelbrot)</td>
+<td>&nbsp;&nbsp;&nbsp;7:&nbsp;</td><td>Z=Z^ZS+C &nbsp;(spider)</td></tr>
+<tr><td>3, 4:</td><td>Z=Z*ZS+C &nbsp;(eye)</td>
+<td>&nbsp;&nbsp;&nbsp;8:</td><td>Z=Z^ZS-1 &nbsp;(skull)</td></tr>
+<tr><td>5, 6:</td><td>Z=(Z+C)/(1+C*Z^3) &nbsp;(four poles)</td>
+<td>&nbsp;&nbsp;&nbsp;9, 10:&nbsp;</td><td>cube root by Newton's method</td></tr>
+</table>
+<br><br>
+<b>From 101 on: with complex numbers.</b> The last two digits name the family, the hundreds the
+member. 101 gives the same picture as 1 but knows eleven twins instead of six.
+<table cellspacing="0" cellpadding="1">
+<tr><td>..01, ..02:&nbsp;</td><td>Z=Z^2+C to Z=Z^5+C, and Z=Z^K+C</td></tr>
+<tr><td>..03, ..04:</td><td>eye: Z=Z*ZS+C and higher powers</td></tr>
+<tr><td>..05, ..06:</td><td>poles: Z=(Z+C)/(1+C*Z^n)</td></tr>
+<tr><td>..07, ..08:</td><td>exponents: Z=Z^ZS+C, Z=Z^Z+C and others</td></tr>
+<tr><td>..09:</td><td>Newton: Z=Z-(Z^n-1)/(n*Z^(n-1)*P), with P = koppX + i*koppY</td></tr>
+<tr><td>..10:</td><td>Newton: Z=Z-(Z^n-P)/(n*Z^(n-1)*C)</td></tr>
+<tr><td>..11, ..12:</td><td>pole eye: Z=(Z+C)/(1+C*Zm), with Zm=Z*ZS, and others</td></tr>
+</table>
+<br><br>
+<b>Even numbers make Julia sets:</b> Z starts at the pixel, and C is fixed ("C-Julia X", "C-Julia
+Y"). A click into a picture with an odd number puts the clicked point there. For 2, 4, 6, 102, 104
+and 106 the menu asks for a C other than 0. Odd numbers start with Z = 0 and take the pixel as C;
+only Newton always starts at the pixel.<br>
+<br>
+<b>The power K</b> belongs to the equations with K in their name; the standard is 10. "Potenzzahl
+K=Zoom" takes the whole part of Zoom. Mind "K gerade" (K even) and "K ungerade" (K odd) in the names.
+A K other than 10 is shown in the title.<br>
+<br>
+<b>Four quarter pictures</b><br>
+In "Groesse/Size", "1/4 Bild Pos.1" to "Pos.4" calculate four pictures in one window; the start
+picture is Pos.1. Each position remembers its settings, while colors hold for all four. "Aktives zum
+vollem Bild/FullPicture" calculates the last one full size.)html")};
+
+constexpr Hilfetext Calc{
+    QT_TRANSLATE_NOOP(
+        "UI", "Selectable variable for the iteration abort, determination of rq for ZahlAbbr"),
+    QT_TRANSLATE_NOOP("UI", R"html(<b>When is a pixel finished?</b><br>
+After every step a number rq is formed from Z = x + i*y. The calculation goes on as long as<br>
+&nbsp;&nbsp;&nbsp;<b>rq &lt; ZahlAbbr</b> &nbsp;and&nbsp; number of steps &lt; maxIter<br>
+A pixel that reaches ZahlAbbr first is called divergent, one that reaches maxIter first convergent.
+The last value of rq is kept for the colors. With a twin, only Z counts, never W.<br>
+<br>
+<b>How rq is formed depends on NrAbbruch ("VariLimit"):</b>
+<table cellspacing="0" cellpadding="1">
+<tr><td>0:&nbsp;</td><td>rq = sqrt(x*x + y*y)</td>
+<td>&nbsp;&nbsp;&nbsp;distance from the origin</td></tr>
+<tr><td>1:</td><td>rq = x*x + y*y</td>
+<td>&nbsp;&nbsp;&nbsp;distance squared, the usual choice</td></tr>
+<tr><td>2:</td><td>rq = |x| + |y|</td>
+<td>&nbsp;&nbsp;&nbsp;the limit is a square standing on its corner</td></tr>
+<tr><td>3:</td><td>rq = x + y</td>
+<td>&nbsp;&nbsp;&nbsp;the limit is a slanting line; negative sums never stop</td></tr>
+<tr><td>4:</td><td>rq = 100 + 2*colors*delta/Genau</td>
+<td>&nbsp;&nbsp;&nbsp;looks for cycles: how exactly does the circle close?</td></tr>
+<tr><td>5:</td><td>rq = 100 + cycle*scale</td>
+<td>&nbsp;&nbsp;&nbsp;looks for cycles: how long is the circle?</td></tr>
+<tr><td>6:</td><td>rq = x*x - y*y</td>
+<td>&nbsp;&nbsp;&nbsp;the limit is a hyperbola</td></tr>
+<tr><td>7:</td><td>rq = (x*x - y*y)^2</td>
+<td>&nbsp;&nbsp;&nbsp;hyperbolas in all four directions</td></tr>
+<tr><td>8:</td><td>rq = (x*x - y*y)^3</td>
+<td>&nbsp;&nbsp;&nbsp;like 6, the limit moves closer to the origin</td></tr>
+<tr><td>9:</td><td>rq = (x*x - y*y)^4</td>
+<td>&nbsp;&nbsp;&nbsp;like 7, the limit moves closer to the origin</td></tr>
+</table>
+<br><br>
+<b>Looking for cycles with 4 and 5</b><br>
+Each new Z is compared with the values before it, the latest first; ZyklusZahl (standard 7, at most
+24) says how far back. A cycle is found when<br>
+&nbsp;&nbsp;&nbsp;delta = |x - xOld| + |y - yOld| &lt; Genau<br>
+with Genau = 0.0001 as the standard. "Colors" is the number of colors of the palette, and the scale
+is colors/ZyklusZahl without remainder. The fixed points around zero have the cycle number 1. If
+nothing is found, the pixel runs on to maxIter and keeps rq = 0; so points that run away count as
+inside here.<br>
+A find ends the calculation only if its rq reaches ZahlAbbr. If you do not want that, increase or
+double ZahlAbbr (default = 400). Then these points run on to maxIter as well, and varKonv colors them
+by rq. More iterations and a larger Genau find more cycles.)html")};
+
+constexpr Hilfetext Twin{
+    QT_TRANSLATE_NOOP("UI", "On the twin method see also %1"),
+    QT_TRANSLATE_NOOP("UI", R"html(<b>Two orbits that disturb each other</b><br>
+Beside Z = x + i*y runs a twin W = p + i*t, by the same equation. Both start at the same point. In
+every step, Z uses in the place of C = Cx + i*Cy a value A made from W, and W uses a value A' made
+from the old Z. For equation 101 that is:<br>
+&nbsp;&nbsp;&nbsp;<b>Z = Z*Z + A</b>, &nbsp;&nbsp;<b>W = W*W + A'</b><br>
+How strongly, is set by koppX and koppY, together P = koppX + i*koppY. If both are 0, the twins 1 to
+6 and 8 change nothing; 7, 9, 10 and 11 then use C*(1+i).<br>
+<br>
+<b>The eleven couplings</b>
+<table cellspacing="0" cellpadding="1">
+<tr><td></td><td><b>for Z: A</b></td><td><b>for the twin W: A'</b></td></tr>
+<tr><td>1:&nbsp;</td><td>(Cx + koppX*p) + i*(Cy + koppY*t)&nbsp;&nbsp;&nbsp;</td>
+<td>(Cx - koppX*x) + i*(Cy - koppY*y)</td></tr>
+<tr><td>2:</td><td>(1 + koppX*p)*Cx + i*(1 - koppY*t)*Cy&nbsp;&nbsp;&nbsp;</td>
+<td>(1 + koppX*x)*Cx + i*(1 - koppY*y)*Cy</td></tr>
+<tr><td>3:</td><td>(1 + koppX*p)*Cx + i*(1 + koppY*t)*Cy&nbsp;&nbsp;&nbsp;</td>
+<td>(1 - koppX*x)*Cx + i*(1 - koppY*y)*Cy</td></tr>
+<tr><td>4:</td><td>C + P*W</td><td>C - P*Z</td></tr>
+<tr><td>5:</td><td>C*(1 + koppX*W)</td><td>C*(1 - koppX*Z)</td></tr>
+<tr><td>6:</td><td>(Cx + koppX*Re(C*W)) + i*(Cy + koppY*Im(C*W))&nbsp;&nbsp;&nbsp;</td>
+<td>(Cx - koppX*Re(C*Z)) + i*(Cy - koppY*Im(C*Z))</td></tr>
+<tr><td>7:</td><td>C*(1+i + koppX*W)</td><td>C*(1+i - koppX*Z)</td></tr>
+<tr><td>8:</td><td>C*(1 + P*W)</td><td>C*(1 - P*Z)</td></tr>
+<tr><td>9:</td><td>C*(1+i + P*W)</td><td>C*(1+i - P*Z)</td></tr>
+<tr><td>10:&nbsp;</td><td>C*(1+i + P*W)</td><td>C*(1+i + P*Z)</td></tr>
+<tr><td>11:&nbsp;</td><td>C*(1+i - P*W)</td><td>C*(1+i - P*Z)</td></tr>
+</table>
+Re and Im are the real and the imaginary part.<br>
+<br>
+<b>What holds where</b><br>
+Equations 1 to 10 know only 1 to 6. In 1 and 2 a higher number switches the twin off. In 3 and 4, 6
+becomes 5, and 5 calculates the parts for Z one by one:<br>
+&nbsp;&nbsp;&nbsp;A = (1 + Re(P*W))*Cx + i*(1 + Im(P*W))*Cy<br>
+In 7 and 8 it is always 1. From 101 on all eleven hold; only the Newton equations 109 to 910 have no twin, they use koppX and koppY as P.<br>
+<br>
+<b>Handling</b><br>
+Switching a twin on sets a koppX or koppY that is 0 to the value of Zoom. The number of the equation
+carries the twin along: 1010004 is equation 101 with twin 4.)html")};
+
+constexpr Hilfetext OrbitEn{
+    QT_TRANSLATE_NOOP("UI", "Orbit: The path of Z between the iterations, displayed as a polygon"),
+    QT_TRANSLATE_NOOP("UI", R"html(<b>What an orbit shows</b><br>
+The color of a pixel only tells how its calculation ends. The orbit shows the way there: every new Z
+is a point of the plane, and straight lines join these points in order.<br>
+&nbsp;&nbsp;&nbsp;<b>start, Z1, Z2, Z3, ...</b><br>
+The polygon begins at the chosen pixel. For equations that start with Z = 0 this is the point C. With
+a twin, the path of Z is drawn, not that of W.<br>
+<br>
+<b>What to look for</b><br>
+&nbsp;&nbsp;&nbsp;a spiral into one point: a fixed point<br>
+&nbsp;&nbsp;&nbsp;a star or polygon, run through again and again: a cycle with as many corners<br>
+&nbsp;&nbsp;&nbsp;lines that leave the picture: a divergent pixel<br>
+Close to the border of the set, the path often wanders about for a long time before it decides.<br>
+<br>
+<b>Switching on and clicking</b><br>
+Menu "Linien/Lines": "Orbit EIN" in white, black, grey, red or varied colors. This works in the full
+picture and in a quarter picture, not in a preview. From then on every click chooses a new starting
+point and does not magnify. With "Orbit-Start vom Bild-Mittelpunkt" the path begins exactly at the
+center of the picture. So a starting point can be typed in to the last digit, and followed at another
+magnification too.<br>
+<br>
+<b>Showing more or less</b><br>
+&nbsp;&nbsp;&nbsp;"Linien dünn-dick/thin-thick": thin or thick lines<br>
+&nbsp;&nbsp;&nbsp;"maximal 120" to "maximal 5": fewer points instead of the full 256<br>
+&nbsp;&nbsp;&nbsp;"Orbit erst ab Iterat.(= ZOOM) EIN": skips the beginning of the path<br>
+&nbsp;&nbsp;&nbsp;"Alle Orbit anzeigen": collects all paths until the store is deleted<br>
+<br>
+<b>The values as a list</b><br>
+"Datei/File", "Letzten Orbit als Liste in HTML-Seite speichern/save" writes all points shown, with
+sixteen decimals and with their place in the picture, to a file. There you can follow a cycle digit
+by digit.<br>
+<br>
+<b>Switching off</b><br>
+"Orbit AUS/STOP". Changing the section can also switch a clicked orbit off; a message tells you. After
+every new orbit Zoom is 1; switching off sets it to 0.5.)html")};
+
+constexpr Hilfetext ColorTab{
+    QT_TRANSLATE_NOOP("UI",
+                      "Selectable color tables with many color swaps, without new calculation"),
+    QT_TRANSLATE_NOOP("UI", R"html(<b>From the result to the color</b><br>
+varDiv or varKonv turn every result into a color number. It counts off along the palette; after the
+last color comes the first again:<br>
+&nbsp;&nbsp;&nbsp;<b>place = cOffset + Fact.Iter * color number</b><br>
+cOffset shifts all colors, and so does the slider. None of this calculates the picture anew. The
+strip at the right of the picture shows the palette.<br>
+<br>
+<b>cTab chooses palette and variant</b><br>
+Four palettes with twelve variants each, by the number cTab:
+<span style="white-space:pre">cTab 0-11, 12-23,  24-32, 36-47</span>
+<table cellspacing="0" cellpadding="1">
+<tr><td>Palette 1:&nbsp;</td><td>512 spectral colors, from cTab = 0</td>
+<td>&nbsp;&nbsp;&nbsp;Palette 3:&nbsp;</td><td>582 from 6 main colors, from cTab = 24</td></tr>
+<tr><td>Palette 2:&nbsp;</td><td>582 from 3 main colors, from cTab = 12</td>
+<td>&nbsp;&nbsp;&nbsp;Palette 4:&nbsp;</td><td>256, less colorful, from cTab = 36</td></tr>
+</table>
+<br><br>
+<b>The reductions</b><br>
+zahl_Tab is the variant 0 to 11 of the palette, that is cTab modulo 12. R11, G11, B11 are the red,
+green and blue of the color, ~R11 is 255 - R11. Before the swapping (0 does nothing):<br>
+if (zahl_Tab == 1) { R11 = ~R11; G11 = ~G11; B11 = ~B11; }
+<table cellspacing="0" cellpadding="1">
+<tr><td>if (zahl_Tab == 2) R11 = 128;&nbsp;&nbsp;&nbsp;</td>
+<td>if (zahl_Tab == 3) G11 = 128;&nbsp;&nbsp;&nbsp;</td><td>if (zahl_Tab == 4) B11 = 128;</td></tr>
+<tr><td>if (zahl_Tab == 5) R11 = 0;</td><td>if (zahl_Tab == 6) G11 = 0;</td>
+<td>if (zahl_Tab == 7) B11 = 0;</td></tr>
+<tr><td>if (zahl_Tab == 8) R11 = 255;</td><td>if (zahl_Tab == 9) G11 = 255;</td>
+<td>if (zahl_Tab == 10) B11 = 255;</td></tr>
+<tr><td>if (zahl_Tab == 11) G11 = 80;</td><td></td><td></td></tr>
+</table>
+<br><br>
+<b>The 4x4 matrix</b> shows sixteen swaps at a time. Each cell names the values that become red,
+green, blue (R, G, B for short):
+<table cellspacing="0" cellpadding="1">
+<tr><td>11: comparison&nbsp;&nbsp;&nbsp;&nbsp;</td><td>12: R B G&nbsp;&nbsp;&nbsp;&nbsp;</td>
+<td>13: G R B&nbsp;&nbsp;&nbsp;&nbsp;</td><td>14: G B R</td></tr>
+<tr><td>21: comparison</td><td>22: B R G</td><td>23: B G R</td><td>24: ~R B G</td></tr>
+<tr><td>31: comparison</td><td>32: G ~R B&nbsp;&nbsp;&nbsp;&nbsp;</td>
+<td>33: ~G B ~R&nbsp;&nbsp;&nbsp;&nbsp;</td><td>34: B R ~G</td></tr>
+<tr><td>41: comparison</td><td>42: B ~G R</td><td>43: ~B R G</td><td>44: B G ~R</td></tr>
+</table>
+The left column shows the palette itself without a reduction, swapped, inverted or in grey. A click
+on a cell makes it the single picture; "cTab/Matrix +1" leads to the matrix and then to the next
+cTab.)html")};
+
+constexpr Hilfetext DivEn{
+    QT_TRANSLATE_NOOP("UI", "Selectable variant for the color calculation in the divergent range, "
+                            "together with the divergence factor FacDiv"),
+    QT_TRANSLATE_NOOP("UI", R"html(<b>The divergent range</b><br>
+A pixel is called divergent when its calculation stops before maxIter; for the Mandelbrot set that is
+everything outside. Two numbers are left of it:<br>
+&nbsp;&nbsp;&nbsp;<b>n</b>: after how many steps was it over?<br>
+&nbsp;&nbsp;&nbsp;<b>rq</b>: how far beyond the limit ZahlAbbr did the last step go?<br>
+n jumps by 1 from ring to ring and gives sharp stripes. rq changes steadily within a ring and gives
+soft transitions. varDiv decides which of them becomes the color number; FacDiv stretches or squeezes
+the run of colors.<br>
+<br>
+<b>The variants varDiv</b> (ln is the natural logarithm, decimals are dropped)
+<table cellspacing="0" cellpadding="1">
+<tr><td>0:&nbsp;</td><td>all black</td>
+<td>&nbsp;&nbsp;&nbsp;&nbsp;&nbsp;&nbsp;10:&nbsp;</td><td>ln(rq) * FacDiv / 6</td></tr>
+<tr><td>1:</td><td>all white</td>
+<td>&nbsp;&nbsp;&nbsp;&nbsp;&nbsp;&nbsp;11:&nbsp;</td><td>2 * ln(rq) * FacDiv</td></tr>
+<tr><td>2:</td><td>n</td>
+<td>&nbsp;&nbsp;&nbsp;&nbsp;&nbsp;&nbsp;12:&nbsp;</td><td>sin(rq) * FacDiv</td></tr>
+<tr><td>3:</td><td>2 * n</td>
+<td>&nbsp;&nbsp;&nbsp;&nbsp;&nbsp;&nbsp;13:&nbsp;</td><td>1000 * FacDiv / rq</td></tr>
+<tr><td>4:</td><td>5 * n</td>
+<td>&nbsp;&nbsp;&nbsp;&nbsp;&nbsp;&nbsp;14:&nbsp;</td><td>ZahlAbbr * 1000 * FacDiv / rq</td></tr>
+<tr><td>5:</td><td>10 * n</td>
+<td>&nbsp;&nbsp;&nbsp;&nbsp;&nbsp;&nbsp;15:&nbsp;</td><td>ZahlAbbr * ZahlAbbr * FacDiv / rq</td></tr>
+<tr><td>6:</td><td>FacDiv * n</td>
+<td>&nbsp;&nbsp;&nbsp;&nbsp;&nbsp;&nbsp;16:&nbsp;</td><td>sqrt(FacDiv * rq)</td></tr>
+<tr><td>7:</td><td>rq / FacDiv</td>
+<td>&nbsp;&nbsp;&nbsp;&nbsp;&nbsp;&nbsp;17:&nbsp;</td><td>sqrt(FacDiv * rq / 5)</td></tr>
+<tr><td>8:</td><td>ln(rq) * FacDiv</td>
+<td>&nbsp;&nbsp;&nbsp;&nbsp;&nbsp;&nbsp;18:&nbsp;</td><td>sqrt(FacDiv * rq / 20)</td></tr>
+<tr><td>9:</td><td>ln(rq) * FacDiv / 3</td><td></td><td></td></tr>
+</table>
+<br><br>
+<b>To try out</b><br>
+At the start varDiv = 8 and FacDiv = 100. The logarithm tames the great differences of rq: whether rq
+is 400 or 100000 gives 599 or 1151. With 2 to 6 you see the rings of equal step number, best with
+palette 1 or 3. In 7, FacDiv works the other way round: a large value gives few colors. 12 swings
+between -FacDiv and FacDiv and gives fine patterns.<br>
+"varDiv +1" and "varDiv -1" run in a circle from 0 to 18; a larger number typed in acts like 8. The
+color number may have any size: at the end of the palette it starts again. Nothing is calculated
+anew.)html")};
+
+constexpr Hilfetext KonvEn{
+    QT_TRANSLATE_NOOP("UI", "Selectable variant for the color calculation in the convergent range, "
+                            "together with the convergence factor FacKonv"),
+    QT_TRANSLATE_NOOP("UI", R"html(<b>The convergent range</b><br>
+A pixel is called convergent here when its calculation runs up to maxIter without reaching ZahlAbbr:
+the inside of the Mandelbrot set. Often it is simply painted black. Yet there, too, a last value rq
+is left, and it tells where Z has come to rest:<br>
+&nbsp;&nbsp;&nbsp;<b>n</b> = maxIter, the same for all these pixels<br>
+&nbsp;&nbsp;&nbsp;<b>rq</b>: the last value, mostly a small number<br>
+Where Z tends to a fixed point, the color changes softly from pixel to pixel. In a cycle, rq depends
+on which of its values came last when maxIter was reached. FacKonv stretches or squeezes the run of
+colors.<br>
+<br>
+<b>The variants varKonv</b> (ln is the natural logarithm, decimals are dropped)
+<table cellspacing="0" cellpadding="1">
+<tr><td>0:&nbsp;</td><td>all black</td>
+<td>&nbsp;&nbsp;&nbsp;&nbsp;&nbsp;&nbsp;7:&nbsp;</td><td>ln(rq) * FacKonv</td></tr>
+<tr><td>1:</td><td>all white</td>
+<td>&nbsp;&nbsp;&nbsp;&nbsp;&nbsp;&nbsp;8:</td><td>10 * FacKonv * ln(rq)</td></tr>
+<tr><td>2:</td><td>FacKonv * n</td>
+<td>&nbsp;&nbsp;&nbsp;&nbsp;&nbsp;&nbsp;9:</td><td>100 * FacKonv * ln(rq)</td></tr>
+<tr><td>3:</td><td>FacKonv * rq</td>
+<td>&nbsp;&nbsp;&nbsp;&nbsp;&nbsp;&nbsp;10:&nbsp;</td><td>ln(rq) * FacKonv / 10</td></tr>
+<tr><td>4:</td><td>5 * FacKonv * rq</td>
+<td>&nbsp;&nbsp;&nbsp;&nbsp;&nbsp;&nbsp;11:&nbsp;</td><td>FacKonv / rq</td></tr>
+<tr><td>5:</td><td>10 * FacKonv * rq</td>
+<td>&nbsp;&nbsp;&nbsp;&nbsp;&nbsp;&nbsp;12:&nbsp;</td><td>sqrt(FacKonv * rq)</td></tr>
+<tr><td>6:</td><td>100 * FacKonv * rq</td><td></td><td></td></tr>
+</table>
+<br><br>
+<b>Special values, to be typed in</b><br>
+&nbsp;&nbsp;&nbsp;13 to 999 act like 4.<br>
+&nbsp;&nbsp;&nbsp;1000 does not draw the inside; what was to be seen there stays.<br>
+&nbsp;&nbsp;&nbsp;From 1001 on the inside gets one color, with color number = varKonv - 1000.<br>
+<br>
+<b>To try out</b><br>
+At the start varKonv = 3 and FacKonv = 100. Variant 2 gives a single color, which you choose with
+FacKonv. 7 to 10 spread very small values of rq, as they arise close to zero; their logarithms are
+negative, so the palette is run through backwards.<br>
+NrAbbruch 4 or 5 with a larger ZahlAbbr is especially rewarding: rq then tells whether a cycle was
+found, and with 5 every cycle length gets a color of its own. "varKonv +1" and "varKonv -1" run in a
+circle from 0 to 12. Nothing is calculated anew.)html")};
+
+} // namespace
+
+// Filled in the order of Hilfethema.
+const Hilfetabelle g_HilfeEnglisch = {ComplexNumbers, Fractals, SpecialFractals, Equations, Calc,
+                                      Twin,           OrbitEn,  ColorTab,        DivEn,     KonvEn};
