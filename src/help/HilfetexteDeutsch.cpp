@@ -111,8 +111,8 @@ constexpr Hilfetext Gleichungen{QT_TRANSLATE_NOOP("UI", "Zur Auswahl der Gleichu
                                 QT_TRANSLATE_NOOP("UI", R"html(<b>Wählen</b><br>
 Eine Gleichung wird im Menü „Gleichung/Equation“ gewählt oder als Nummer oben im Bedienfeld
 eingetragen und mit „Start!“ gerechnet. Alle anderen Einstellungen werden übernommen, auch Ausschnitt
-und Farben; so lassen sich Gleichungen vergleichen. Ist nichts Rechtes zu sehen, hilft
-„Datei/Reset zum Startbild der Gleichung“.<br>
+und Farben; so lassen sich Gleichungen vergleichen. Ist nichts Rechtes zu sehen, hilft im Menü
+„Datei/File“ der Befehl „Reset zum Startbild der Gleichung“.<br>
 <br>
 <b>1 bis 10: in Komponenten</b>, mit den reellen Zahlen x und y gerechnet
 <table cellspacing="0" cellpadding="1">
@@ -265,9 +265,9 @@ ein Startpunkt auf alle Stellen genau eingeben und auch bei anderer Vergrößeru
 &nbsp;&nbsp;&nbsp;„Alle Orbit anzeigen“: sammelt alle Wege, bis der Speicher gelöscht wird<br>
 <br>
 <b>Die Werte als Liste</b><br>
-„Datei/Letzten Orbit als Liste in HTML-Seite speichern“ schreibt alle gezeigten Punkte mit sechzehn
-Stellen nach dem Komma und mit ihrer Lage im Bild in eine Datei. Darin lassen sich Zyklen Stelle für
-Stelle nachlesen.<br>
+Menü „Datei/File“: „Letzten Orbit als Liste in HTML-Seite speichern“ schreibt alle gezeigten Punkte
+mit sechzehn Stellen nach dem Komma und mit ihrer Lage im Bild in eine Datei. Darin lassen sich
+Zyklen Stelle für Stelle nachlesen.<br>
 <br>
 <b>Ausschalten</b><br>
 „Orbit AUS/STOP“. Auch ein geänderter Ausschnitt kann den angeklickten Orbit abschalten; eine Meldung

@@ -1,1 +1,1 @@
-# wirbelwerk_test(test_name help/test_name.cpp)
+wirbelwerk_test(test_hilfe help/test_hilfe.cpp)
