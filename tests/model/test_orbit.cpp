@@ -1,0 +1,311 @@
+#include "Bildprobe.h"
+
+namespace {
+
+constexpr double Ende = 1000.123456789;
+
+/// Picture of equation 1 with the orbit on and its start pixel in the middle.
+std::unique_ptr<Mandelbrot> orbitprobe(int farbe, int art) {
+    auto m = bildprobe(201, 151);
+    m->Br_x = 4.0;
+    malen(*m);
+    m->g_OrbitJa = farbe;
+    m->g_OrbitDuennJa = art;
+    m->OPx = 60;
+    m->OPy = 40;
+    return m;
+}
+
+/// Pixels by which two pictures differ, as a list of points.
+QList<QPoint> unterschiede(const QImage& a, const QImage& b) {
+    QList<QPoint> punkte;
+    for (int y = 0; y < a.height(); ++y) {
+        for (int x = 0; x < a.width(); ++x) {
+            if (a.pixel(x, y) != b.pixel(x, y)) {
+                punkte << QPoint(x, y);
+            }
+        }
+    }
+    return punkte;
+}
+
+} // namespace
+
+class TestOrbit : public QObject {
+    Q_OBJECT
+
+  private Q_SLOTS:
+    void punkte_data();
+    void punkte();
+    void startpunkt_data();
+    void startpunkt();
+    void pfade();
+    void dickeUndSammlung_data();
+    void dickeUndSammlung();
+    void farben_data();
+    void farben();
+    void unveraendertesOrbit();
+    void nurDerStartpixel();
+    void aenderungSchaltetAus();
+    void ausserhalb();
+    void absurd_data();
+    void absurd();
+    void liste();
+};
+
+void TestOrbit::punkte_data() {
+    QTest::addColumn<int>("hoechstens");
+    QTest::addColumn<int>("abIteration");
+    QTest::addColumn<int>("anzahl");
+    QTest::newRow("all of 20 iterations") << 256 << 0 << 19;
+    QTest::newRow("at most five") << 5 << 0 << 5;
+    QTest::newRow("from the tenth on") << 256 << 9 << 10;
+    QTest::newRow("none") << 0 << 0 << 0;
+    QTest::newRow("negative number") << -8 << 0 << 0;
+}
+
+void TestOrbit::punkte() {
+    QFETCH(int, hoechstens);
+    QFETCH(int, abIteration);
+    const auto m = orbitprobe(1, 1);
+    m->OPx = 95; // inside the set
+    m->OPy = 75;
+    m->Max_Iterationen = 20;
+    m->g_maxOrbitIterat = hoechstens;
+    m->g_OrbitAbIterAn = abIteration;
+    malen(*m);
+    QTEST(m->OZaehler, "anzahl");
+    double cx = m->R_Min;
+    double cy = m->I_Max;
+    const double schritt = 4.0 / 201;
+    for (int i = 0; i < 95; ++i) {
+        cx += schritt;
+    }
+    for (int i = 0; i < 75; ++i) {
+        cy -= schritt;
+    }
+    QCOMPARE(m->OrbitX[0], cx);
+    QCOMPARE(m->OrbitY[0], cy);
+    double x = 0.0;
+    double y = 0.0;
+    for (int n = 1; n <= abIteration + m->OZaehler; ++n) {
+        const double neu = x * x - y * y + cx;
+        y = 2 * x * y + cy;
+        x = neu;
+        if (n > abIteration) {
+            QCOMPARE(m->OrbitX[std::size_t(n - abIteration)], x);
+            QCOMPARE(m->OrbitY[std::size_t(n - abIteration)], y);
+        }
+    }
+    QCOMPARE(m->OrbitX[std::size_t(m->OZaehler) + 1], Ende);
+}
+
+void TestOrbit::startpunkt_data() {
+    QTest::addColumn<int>("gleichung");
+    QTest::addColumn<bool>("mittelpunkt");
+    QTest::addColumn<QPointF>("punkt");
+    const double s = 4.0 / 200;
+    QTest::newRow("Mandelbrot: the constant") << 1 << false << QPointF(-2.5 + 60 * s, 1.5 - 40 * s);
+    QTest::newRow("Julia: the start value") << 2 << false << QPointF(-2.5 + 60 * s, 1.5 - 40 * s);
+    QTest::newRow("picture centre") << 2 << true << QPointF(-0.5, 0.0);
+}
+
+void TestOrbit::startpunkt() {
+    QFETCH(int, gleichung);
+    QFETCH(bool, mittelpunkt);
+    QFETCH(QPointF, punkt);
+    const auto m = orbitprobe(1, 1);
+    m->resize(220, 150);
+    m->wahl_Gleichung = gleichung;
+    m->g_OrbitMP = mittelpunkt ? 1 : 0;
+    malen(*m);
+    QVERIFY(std::abs(m->OrbitX[0] - punkt.x()) < 1e-12);
+    QVERIFY(std::abs(m->OrbitY[0] - punkt.y()) < 1e-12);
+    QCOMPARE(m->OPx, mittelpunkt ? 100 : 60);
+    QVERIFY(m->g_OrbitStartString.contains(QString::number(m->OPx)));
+}
+
+void TestOrbit::pfade() {
+    const auto m = orbitprobe(4, 20);
+    m->resize(220, 150); // 200 x 150: 50 pixels a plane unit
+    m->MP_x = 0.0;
+    m->MP_y = 0.0;
+    m->OPx = 50; // c = -1
+    m->OPy = 75;
+    m->g_maxOrbitIterat = 3;
+    malen(*m);
+    const QPainterPath& pfad = m->polygonPathM1;
+    QCOMPARE(pfad.elementCount(), 4);
+    QCOMPARE(QPointF(pfad.elementAt(0)), QPointF(50, 75));
+    const auto x = [&](int i) { return 100 + std::trunc(50 * m->OrbitX[std::size_t(i)]); };
+    const auto y = [&](int i) { return 75 - std::trunc(50 * m->OrbitY[std::size_t(i)]); };
+    for (int i = 1; i <= 3; ++i) {
+        QCOMPARE(QPointF(pfad.elementAt(i)), QPointF(x(i), y(i)));
+        QCOMPARE(QPointF(m->polygonPathM2.elementAt(i)), QPointF(x(i) + 1, y(i) + 1));
+        QCOMPARE(QPointF(m->polygonPathM3.elementAt(i)), QPointF(x(i) + 1, y(i)));
+        QCOMPARE(QPointF(m->polygonPathM4.elementAt(i)), QPointF(x(i), y(i) + 1));
+    }
+    QVERIFY(std::abs(m->OrbitX[1] + 1.0) < 1e-9);
+}
+
+void TestOrbit::dickeUndSammlung_data() {
+    QTest::addColumn<int>("art");
+    QTest::addColumn<int>("artDanach");
+    QTest::addColumn<bool>("ersterSichtbar"); // the orbit drawn before, elsewhere
+    QTest::addColumn<bool>("dick");
+    QTest::newRow("thick, last") << 0 << 0 << false << true;
+    QTest::newRow("thin, last") << 1 << 1 << false << false;
+    QTest::newRow("thick, all") << 20 << 20 << true << true;
+    QTest::newRow("thin, all") << 21 << 21 << true << false;
+    QTest::newRow("delete, then thick") << 200 << 0 << false << true;
+    QTest::newRow("delete, then thin") << 201 << 1 << false << false;
+}
+
+void TestOrbit::dickeUndSammlung() {
+    QFETCH(int, art);
+    const auto m = orbitprobe(4, 1);
+    m->g_maxOrbitIterat = 2;
+    m->g_OrbitJa = 0;
+    const QImage ohne = malen(*m);
+    m->g_OrbitJa = 4;
+    m->OPx = 150;
+    m->OPy = 20;
+    const QList<QPoint> erster = unterschiede(ohne, malen(*m));
+    m->OPx = 40;
+    m->OPy = 100;
+    const QList<QPoint> zweiter = unterschiede(ohne, malen(*m));
+    QVERIFY(erster.size() > 10 && zweiter.size() > 10);
+    m->g_OrbitDuennJa = art;
+    const QList<QPoint> jetzt = unterschiede(ohne, malen(*m));
+    QTEST(m->g_OrbitDuennJa, "artDanach");
+    QTEST(jetzt.contains(erster[5]), "ersterSichtbar");
+    QVERIFY(jetzt.contains(zweiter[5]));
+    QTEST(jetzt.contains(zweiter[5] + QPoint(1, 1)) && jetzt.size() > zweiter.size() * 3 / 2 &&
+              jetzt.contains(zweiter[7] + QPoint(0, 1)),
+          "dick");
+    if (art >= 200) {
+        QCOMPARE(m->polygonPathM1.elementCount(), 1 + m->OZaehler);
+    }
+}
+
+void TestOrbit::farben_data() {
+    QTest::addColumn<int>("farbe");
+    QTest::addColumn<QColor>("soll");
+    QTest::newRow("white") << 1 << QColor(255, 255, 255);
+    QTest::newRow("black") << 2 << QColor(0, 0, 0);
+    QTest::newRow("grey") << 3 << QColor(128, 128, 128);
+    QTest::newRow("red") << 4 << QColor(255, 0, 0);
+    QTest::newRow("varied: yellow") << 5 << QColor(255, 255, 0);
+    QTest::newRow("unknown: white") << 77 << QColor(255, 255, 255);
+}
+
+void TestOrbit::farben() {
+    QFETCH(int, farbe);
+    const auto m = orbitprobe(farbe, 1);
+    m->g_maxOrbitIterat = 2;
+    m->OPx = 150;
+    m->OPy = 20;
+    const QImage bild = malen(*m);
+    QTEST(bild.pixelColor(150, 20), "soll");
+}
+
+// A repaint draws the orbit again without collecting it twice or touching the zoom factor.
+void TestOrbit::unveraendertesOrbit() {
+    const auto m = orbitprobe(4, 21);
+    m->click2_Zoom = 0.5;
+    const QImage erst = malen(*m);
+    QCOMPARE(m->click2_Zoom, 1.0);
+    const int elemente = m->polygonPathM1.elementCount();
+    m->click2_Zoom = 0.25;
+    const QImage zweit = malen(*m);
+    QCOMPARE(zweit, erst);
+    QCOMPARE(m->polygonPathM1.elementCount(), elemente);
+    QCOMPARE(m->click2_Zoom, 0.25);
+    m->OPx += 1;
+    malen(*m);
+    QVERIFY(m->polygonPathM1.elementCount() > elemente);
+    QCOMPARE(m->click2_Zoom, 1.0);
+}
+
+void TestOrbit::nurDerStartpixel() {
+    const auto m = orbitprobe(1, 1);
+    malen(*m);
+    const auto geruehrt = [&] {
+        m->ImageIntegers[20][20] = -77;
+        malen(*m);
+        return m->ImageIntegers[20][20] != -77;
+    };
+    m->OPx += 3;
+    m->g_RechnenJa = 1;
+    QVERIFY(!geruehrt());
+    m->Koppl_x = 0.7; // not an orbit setting
+    QVERIFY(geruehrt());
+    m->g_RechnenJa = 2;
+    QVERIFY(geruehrt());
+}
+
+void TestOrbit::aenderungSchaltetAus() {
+    const auto m = orbitprobe(1, 1);
+    malen(*m);
+    QSignalSpy aus(m.get(), &Mandelbrot::OrbitOffSignal);
+    m->ImageIntegers[20][20] = -77;
+    m->BildbreiteMalD(0.5);
+    malen(*m);
+    QCOMPARE(aus.count(), 1);
+    QCOMPARE(m->ImageIntegers[20][20], -77);
+    m->g_OrbitMP = 1; // from the centre the orbit stays on, also in the preview
+    malen(*m);
+    QCOMPARE(aus.count(), 1);
+    QCOMPARE(m->g_halbesBild, 10);
+    QCOMPARE(m->OPx, 50);
+    QCOMPARE(m->OrbitX[0], m->MP_x);
+}
+
+void TestOrbit::ausserhalb() {
+    const auto m = orbitprobe(1, 1);
+    m->OPx = 500;
+    malen(*m);
+    QVERIFY(!m->letzterOrbit.has_value());
+    QCOMPARE(m->polygonPathM1.elementCount(), 0);
+}
+
+void TestOrbit::absurd_data() {
+    QTest::addColumn<double>("wert");
+    QTest::addColumn<double>("breite");
+    QTest::newRow("escapes to infinity") << std::numeric_limits<double>::infinity() << 4.0;
+    QTest::newRow("huge width") << 1e300 << 1e300;
+    QTest::newRow("no width") << 400.0 << 0.0;
+    QTest::newRow("NaN width") << 400.0 << std::numeric_limits<double>::quiet_NaN();
+    QTest::newRow("tiny width") << 400.0 << 1e-320;
+}
+
+void TestOrbit::absurd() {
+    QFETCH(double, wert);
+    QFETCH(double, breite);
+    const auto m = orbitprobe(5, 20);
+    m->OPx = 5;
+    m->wert_Abbruch = wert;
+    m->Br_x = breite;
+    m->g_maxOrbitIterat = 2000000000;
+    m->g_RechnenJa = 2;
+    malen(*m);
+    malen(*m);
+    QVERIFY(m->OZaehler <= Mandelbrot::OrbitMax);
+    for (int i = 0; i < m->polygonPathM1.elementCount(); ++i) {
+        const QPointF p = m->polygonPathM1.elementAt(i);
+        QVERIFY(std::abs(p.x()) <= 1e6 && std::abs(p.y()) <= 1e6);
+    }
+}
+
+void TestOrbit::liste() {
+    const auto m = orbitprobe(1, 1);
+    m->g_maxOrbitIterat = 3;
+    malen(*m);
+    const QString punkt = QString::number(m->OrbitX[2], 'f', 16);
+    QVERIFY2(m->g_OrbitListeHTMStr.contains("2. (" + punkt + ", "),
+             qPrintable(m->g_OrbitListeHTMStr));
+    QVERIFY(m->g_OrbitListeHTMStr.contains(m->g_NameGlg));
+}
+
+QTEST_MAIN(TestOrbit)
+#include "test_orbit.moc"
