@@ -34,12 +34,12 @@ struct Doppelschritt {
 template <class Formel>
 struct Ungebremst : Formel {
     template <class Wert>
-    static bool haupt(Wert& z, const Wert& a) {
+    bool haupt(Wert& z, const Wert& a) const {
         z = Formel::formel(z, a);
         return false;
     }
     template <class Wert>
-    static bool zwilling(Wert& w, const Wert& a) {
+    bool zwilling(Wert& w, const Wert& a) const {
         return haupt(w, a);
     }
     static bool abbruch(bool /*haupt*/, bool /*zwilling*/) { return false; }
@@ -73,4 +73,12 @@ double gekoppeltIterieren(const Mandelbrot& m, const Abbildung& abbildung, const
         return wert < 0.0 ? -grenze : grenze;
     }
     return wert;
+}
+
+/// The power K; 0 is lastingly replaced by 10.
+[[nodiscard]] inline qint32 kPotenzRepariert(const Mandelbrot& m) {
+    if (m.g_kPotenz == 0) {
+        m.g_kPotenz = 10;
+    }
+    return m.g_kPotenz;
 }

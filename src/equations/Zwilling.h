@@ -2,6 +2,7 @@
 
 #include <QtGlobal>
 
+#include <array>
 #include <complex>
 
 // The coupling of the twin orbit: the constant that is added to the main value Z comes from the
