@@ -181,7 +181,6 @@ void TestFarbwahl::palettenGrenzen_data() {
     QTest::addColumn<qint32>("wahl48"); // after the lookup, 1 before it
     QTest::addColumn<quint32>("nummer");
     QTest::addColumn<QColor>("soll");
-    const QColor blau(0, 0, 255);
     QTest::newRow("spectral, place 0") << 0 << 512 << 1 << 340U << QColor(255, 0, 0);
     QTest::newRow("spectral, place 11") << 11 << 512 << 1 << 340U << QColor(0, 0, 0);
     QTest::newRow("negative table") << -7 << 512 << 1 << 340U << QColor(255, 0, 0);

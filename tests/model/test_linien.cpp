@@ -14,7 +14,7 @@ class AlleLinien {
         const double g = m.g_Gitterabstand;
         const double h = S / 2.0;
         int mark = 0;
-        const auto setzen = [&](int paar) {
+        const auto setzen = [&](std::size_t paar) {
             mark = zaehler[paar];
             zaehler[paar] ^= 3; // 101 <-> 102 and so on
         };
