@@ -1,5 +1,7 @@
 #include "equations/Startwerte.h"
 
+#include "colours/Farbwahl.h"
+#include "colours/Palettenwahl.h"
 #include "equations/Gleichungen.h"
 #include "Mandelbrot.h"
 
@@ -186,13 +188,6 @@ void schalterGrundstellung(Mandelbrot& m) {
     m.OPy = ganz ? 250 : 125;
 }
 
-qint32 palettenFarben(qint32 farbtab) {
-    if (farbtab < 12) {
-        return Mandelbrot::ColormapSize;
-    }
-    return farbtab <= 35 ? Mandelbrot::Palette48Farben : 256;
-}
-
 } // namespace
 
 std::span<const Startzeile> startzeilen() noexcept { return Tabelle; }
@@ -229,7 +224,8 @@ void Mandelbrot::Initialisierung() {
     if (g_halbesBild > 1 && zahl_Matrix == MatrixAn) {
         g_halbesBild = 1;
     }
-    g_Max_rgbFarben = palettenFarben(zahl_farbtab);
+    g_PalettenZahl = palettenZahl(zahl_farbtab);
+    g_Max_rgbFarben = static_cast<qint32>(palettenFarben(zahl_farbtab));
     Br_y = g_Bildverhaeltnis * Br_x;
     BildbreiteNeueEckpunkte();
     initIstdurchJa = 1;

@@ -258,10 +258,11 @@ void TestStartwerte::gefalteteNummer() {
 void TestStartwerte::palettenFarben_data() {
     QTest::addColumn<int>("nummer");
     QTest::addColumn<int>("farben");
-    QTest::newRow("three colours, table 12") << 1 << 582;
-    QTest::newRow("six colours, table 32") << 5 << 582;
-    QTest::newRow("spectrum, table 6") << 9 << 512;
-    QTest::newRow("spectrum, table 9") << 110 << 512;
+    QTest::addColumn<QString>("zahl");
+    QTest::newRow("three colours, table 12") << 1 << 582 << "2";
+    QTest::newRow("six colours, table 32") << 5 << 582 << "3";
+    QTest::newRow("spectrum, table 6") << 9 << 512 << "1";
+    QTest::newRow("spectrum, table 9") << 110 << 512 << "1";
 }
 
 void TestStartwerte::palettenFarben() {
@@ -269,6 +270,7 @@ void TestStartwerte::palettenFarben() {
     m->wahl_Gleichung = nummer;
     m->Initialisierung();
     QTEST(m->g_Max_rgbFarben, "farben");
+    QTEST(m->g_PalettenZahl, "zahl");
 }
 
 void TestStartwerte::orbitStart_data() {
