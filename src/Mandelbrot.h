@@ -24,6 +24,8 @@ class Mandelbrot : public QWidget {
     static constexpr int Palette48Farben = 582; ///< colours of the three- and six-colour palettes
     static constexpr int BildMax = 1200;        ///< most columns and rows of a full picture
     static constexpr int ViertelMax = 300;      ///< most columns and rows of a matrix cell
+    static constexpr int Streifenbreite = 20;   ///< pixels right of the picture: palette strip
+    static constexpr int MatrixEin = 1000;      ///< zahl_Matrix while the matrix view is on
     static constexpr int ZyklusMax = 24;        ///< highest index of the cycle history
     static constexpr int OrbitMax = 258;        ///< most recorded orbit points
     static constexpr int VerlaufLaenge = 300;   ///< entries of row 0 that the history keeps

@@ -9,8 +9,6 @@
 
 namespace {
 
-constexpr qint32 MatrixAn = 1000;  ///< zahl_Matrix while the matrix view is on
-constexpr int StreifenBreite = 20; ///< pixels right of the picture, kept for the palette strip
 constexpr qint32 LetzteOhneZusatz = 106; ///< equations above it get the second table
 
 /// What every equation starts with.
@@ -107,7 +105,7 @@ void uebernehmen(Mandelbrot& m, const Startwerte& werte) {
     setze(m.rechen_VarianteKonv, werte.rechen_VarianteKonv);
     setze(m.color_Offset, werte.color_Offset);
     setze(m.zahl_farbtab, werte.zahl_farbtab);
-    if (m.zahl_Matrix != MatrixAn) {
+    if (m.zahl_Matrix != Mandelbrot::MatrixEin) {
         setze(m.zahl_Matrix, werte.zahl_Matrix);
     }
     setze(m.g_ZwillingJa, werte.g_ZwillingJa);
@@ -127,7 +125,7 @@ void anwenden(Mandelbrot& m, std::span<const Startzeile> zeilen) {
 /// Rows over columns of the picture. A widget without room for a picture keeps a ratio that
 /// is usable and has 1 otherwise, so that no width or height becomes infinite.
 void seitenverhaeltnis(Mandelbrot& m) {
-    const int breite = m.width() - StreifenBreite;
+    const int breite = m.width() - Mandelbrot::Streifenbreite;
     if (breite > 0 && m.height() > 0) {
         m.g_Bildverhaeltnis = static_cast<double>(m.height()) / breite;
     } else if (!std::isfinite(m.g_Bildverhaeltnis) || m.g_Bildverhaeltnis <= 0.0) {
@@ -221,7 +219,7 @@ void Mandelbrot::Initialisierung() {
     if (wahl_Gleichung > LetzteOhneZusatz) {
         InitGreater100();
     }
-    if (g_halbesBild > 1 && zahl_Matrix == MatrixAn) {
+    if (g_halbesBild > 1 && zahl_Matrix == MatrixEin) {
         g_halbesBild = 1;
     }
     g_PalettenZahl = palettenZahl(zahl_farbtab);

@@ -9,7 +9,6 @@ enum Anforderung : qint32 { NurAussehen = 0, ParameterNeu = 3 };
 
 constexpr int VarianteDivMax = 18;
 constexpr int VarianteKonvMax = 12;
-constexpr int MatrixEin = 1000;
 
 /// wert + schritt; beyond either end it becomes the opposite end, not the remainder.
 qint32 rundum(qint32 wert, int schritt, qint32 hoechster) {
