@@ -109,8 +109,8 @@ class Mandelbrot : public QWidget {
     double TeilerColorbild = 0.0;   ///< picture size / matrix cell size
 
     // --- Palettes and cycle history --------------------------------------------------------------
-    std::array<quint8, 3 * Palette48Farben> Palette48{};  ///< red, green, blue
-    std::array<quint8, 3 * ColormapSize> colormapWave{};  ///< red, green, blue
+    std::array<quint8, std::size_t{3} * Palette48Farben> Palette48{}; ///< red, green, blue
+    std::array<quint8, std::size_t{3} * ColormapSize> colormapWave{}; ///< red, green, blue
     mutable std::array<double, ZyklusMax + 1> xm{}, ym{}; ///< earlier values, latest first
     mutable std::array<double, ZyklusMax + 1> pm{}, tm{};
 

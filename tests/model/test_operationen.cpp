@@ -282,6 +282,7 @@ void TestOperationen::schritt() {
         setze(*m, stand.feld, stand.wert);
     }
     std::vector<double> soll;
+    soll.reserve(Felder.size());
     for (const Feld feld : Felder) {
         soll.push_back(lies(*m, feld));
     }
