@@ -1,5 +1,6 @@
 wirbelwerk_test(test_berechnung model/test_berechnung.cpp)
 wirbelwerk_test(test_einfaerbung model/test_einfaerbung.cpp)
+wirbelwerk_test(test_goldbilder model/test_goldbilder.cpp)
 wirbelwerk_test(test_linien model/test_linien.cpp)
 wirbelwerk_test(test_maus model/test_maus.cpp)
 wirbelwerk_test(test_operationen model/test_operationen.cpp)
