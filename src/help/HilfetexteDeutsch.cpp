@@ -147,7 +147,7 @@ steht im Titel.<br>
 <br>
 <b>Vier Viertelbilder</b><br>
 „Groesse/Size“ rechnet mit „1/4 Bild Pos.1“ bis „Pos.4“ vier Bilder in ein Fenster; das Startbild
-ist Pos.1. Jede Position merkt sich ihre Einstellungen, Farben gelten für alle vier. „Aktives zum
+ist das erste davon. Jede Position merkt sich ihre Einstellungen, Farben gelten für alle vier. „Aktives zum
 vollem Bild/FullPicture“ rechnet das letzte groß.)html")};
 
 constexpr Hilfetext Berechnung{

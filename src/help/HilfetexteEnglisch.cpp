@@ -145,7 +145,7 @@ A K other than 10 is shown in the title.<br>
 <br>
 <b>Four quarter pictures</b><br>
 In "Groesse/Size", "1/4 Bild Pos.1" to "Pos.4" calculate four pictures in one window; the start
-picture is Pos.1. Each position remembers its settings, while colors hold for all four. "Aktives zum
+picture is the first of them. Each position remembers its settings, while colors hold for all four. "Aktives zum
 vollem Bild/FullPicture" calculates the last one full size.)html")};
 
 constexpr Hilfetext Calc{

@@ -72,17 +72,17 @@ static QList<int> von(int erste, int letzte) {
 class TestHilfe : public QObject {
     Q_OBJECT
 
+    UI m_fenster;
+
   private Q_SLOTS:
     void kaesten_data();
     void kaesten();
     void autor();
     void qtVersion();
     void zitierteBeschriftungen();
+    void gleicheFormeln();
     void tatsachen_data();
     void tatsachen();
-
-  private:
-    UI m_fenster;
 };
 
 void TestHilfe::kaesten_data() {
@@ -217,6 +217,24 @@ void TestHilfe::zitierteBeschriftungen() {
         }
     }
     QVERIFY2(zitate > 60, qPrintable(QString::number(zitate)));
+}
+
+/// The formulas of twins and colour variants are the same in both languages.
+void TestHilfe::gleicheFormeln() {
+    static const QRegularExpression formel("<td>([^<]*(?:C|Fac|rq)[^<]*)</td>");
+    const auto formeln = [](const Hilfetabelle& sprache, Hilfethema thema) {
+        QStringList liste;
+        const QString text = sprache.at(static_cast<std::size_t>(thema)).text;
+        for (auto t = formel.globalMatch(text); t.hasNext();) {
+            liste << t.next().captured(1);
+        }
+        return liste;
+    };
+    for (const auto& [thema, anzahl] :
+         {std::pair{Hilfethema::Zwilling, 22}, {Hilfethema::Div, 13}, {Hilfethema::Konv, 11}}) {
+        QCOMPARE(formeln(g_HilfeDeutsch, thema), formeln(g_HilfeEnglisch, thema));
+        QCOMPARE(formeln(g_HilfeDeutsch, thema).size(), anzahl);
+    }
 }
 
 void TestHilfe::tatsachen_data() {
