@@ -1,6 +1,0 @@
-#include "UI_Hauptfenster.h"
-
-void UI::Bild_SpeichernSlot() {}
-void UI::Koordinaten_LadenSlot() {}
-void UI::Koordinaten_SpeichernSlot() {}
-void UI::OrbitListeHTM_SpeichernSlot() {}
