@@ -1,1 +1,2 @@
-# wirbelwerk_test(test_name files/test_name.cpp)
+wirbelwerk_test(test_bilddaten files/test_bilddaten.cpp)
+wirbelwerk_test(test_export files/test_export.cpp)
