@@ -67,7 +67,6 @@ void loeschenVorbereiten(Mandelbrot& m, Bildlauf& lauf) {
     }
     m.g_RechnenJa = 1;
     lauf.allePixel = true;
-    lauf.betrQ = m.g_BildLoeschen == 1 ? 0.0 : m.wert_Abbruch;
     m.privateIterat = m.g_BildLoeschen == 1 ? 0 : m.Max_Iterationen;
     m.wahl_Gleichung = 0;
 }

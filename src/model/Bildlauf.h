@@ -25,7 +25,6 @@ struct Bildlauf {
     bool orbitDraw = false;     ///< the start pixel was met, its orbit is to be drawn
     bool allePixel = true;      ///< false: of the pixels only the orbit's start is computed
     qint32 wahlrett = 0;        ///< the equation number while a picture is being cleared
-    double betrQ = 0.0;         ///< last value that a kernel returned
 
     [[nodiscard]] Signatur& signatur(Mandelbrot& m) const {
         return Matrix ? m.SignaturViertel : m.SignaturGross;

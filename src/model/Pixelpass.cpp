@@ -1,14 +1,15 @@
 #include "model/Pixelpass.h"
 
 #include "equations/Kernwahl.h"
+#include "equations/Zeilenkern.h"
 #include "model/Linien.h"
 #include "model/Orbit.h"
+
+#include <algorithm>
 
 namespace {
 
 constexpr qint32 Meldungsabstand = 60; ///< rows between two progress lines
-/// Added to the start value: no stored point can match the first iterates by accident.
-constexpr double Zyklusversatz = 1000.111;
 
 /// "Zeile = n" with a fixed context, in release builds too.
 void fortschrittMelden(Mandelbrot& m, qint32 zeile) {
@@ -27,65 +28,82 @@ class Pass {
     /// One row; the imaginary coordinate is the caller's.
     void zeileRechnen(qint32 zeile, double y) {
         const std::span<qint32> marken = lauf.marken(m, zeile);
+        qint32 start = lauf.Spalten; // column of the orbit's start pixel, if it is in this row
         double x = m.R_Min;
         for (qint32 spalte = lauf.CxStart; spalte < lauf.Spalten; ++spalte) {
             const auto index = static_cast<std::size_t>(spalte);
+            xWerte[index] = x;
             marken[index] = lauf.LinienRechnen ? linien.marke(x, y) : 0;
             if (istOrbitStart(m, lauf, spalte, zeile)) {
-                startpixelRechnen(spalte, zeile, kernwerte(x, y));
-            } else if (m.g_RechnenJa >= 1 && lauf.allePixel) {
-                pixelRechnen(spalte, zeile, kernwerte(x, y));
+                start = spalte;
             }
             x += lauf.Schritte_Spalte;
+        }
+        stueckRechnen(zeile, y, lauf.CxStart, start);
+        if (start < lauf.Spalten) {
+            startpixelRechnen(zeile, y, start);
+            stueckRechnen(zeile, y, start + 1, lauf.Spalten);
+        }
+        if (m.g_RechnenJa >= 1) {
+            rahmenSetzen(zeile);
         }
     }
 
   private:
-    [[nodiscard]] Kernwerte kernwerte(double x, double y) const {
-        return lauf.Juliamenge == 1 ? Kernwerte{x, y, m.CJ_x, m.CJ_y} : Kernwerte{0.0, 0.0, x, y};
-    }
-
-    void zyklusVorbesetzen(const Kernwerte& w) {
-        if (m.glg_Abbruch != 4 && m.glg_Abbruch != 5) {
+    /// Columns [von, bis) without the orbit's start pixel.
+    void stueckRechnen(qint32 zeile, double y, qint32 von, qint32 bis) {
+        if (m.g_RechnenJa < 1 || !lauf.allePixel || von >= bis) {
             return;
         }
-        for (qint32 i = 0; i <= std::min(m.g_zycmax, qint32{Mandelbrot::ZyklusMax}); ++i) {
-            const auto k = static_cast<std::size_t>(i);
-            m.xm[k] = m.pm[k] = w.wertx0 + Zyklusversatz;
-            m.ym[k] = m.tm[k] = w.werty0 + Zyklusversatz;
+        const auto ab = static_cast<std::size_t>(von);
+        const auto anzahl = static_cast<std::size_t>(bis - von);
+        const std::span<double> werte = lauf.werte(m, zeile).subspan(ab, anzahl);
+        const std::span<qint32> zaehler = lauf.anzahlen(m, zeile).subspan(ab, anzahl);
+        if (kern == nullptr) {
+            // Nothing computes: the count that was preset, and the 0 of the first frame pixel.
+            std::fill(werte.begin(), werte.end(), 0.0);
+            std::fill(zaehler.begin(), zaehler.end(), m.privateIterat);
+            return;
         }
+        ::zeileRechnen(m, {.x = std::span(xWerte).subspan(ab, anzahl),
+                           .y = y,
+                           .julia = lauf.Juliamenge == 1,
+                           .wert = werte,
+                           .zaehler = zaehler});
     }
 
-    void iterieren(const Kernwerte& w) {
-        zyklusVorbesetzen(w);
-        if (kern != nullptr) {
-            lauf.betrQ = (m.*kern)(w.wertx0, w.werty0, w.wertCx, w.wertCy);
-        }
-    }
-
-    void speichern(qint32 spalte, qint32 zeile) {
+    void startpixelRechnen(qint32 zeile, double y, qint32 spalte) {
         const auto index = static_cast<std::size_t>(spalte);
-        const bool rahmen = spalte == lauf.CxStart || spalte == lauf.Spalten - 1 ||
-                            zeile == lauf.CyStart || zeile == lauf.Zeilen - 1;
-        if (rahmen) {
-            lauf.betrQ = 0.0;
-        }
-        lauf.werte(m, zeile)[index] = lauf.betrQ;
-        lauf.anzahlen(m, zeile)[index] = rahmen ? 0 : m.privateIterat;
-    }
-
-    void pixelRechnen(qint32 spalte, qint32 zeile, const Kernwerte& w) {
-        iterieren(w);
-        speichern(spalte, zeile);
-    }
-
-    void startpixelRechnen(qint32 spalte, qint32 zeile, Kernwerte w) {
+        const double x = xWerte[index];
+        Kernwerte w =
+            lauf.Juliamenge == 1 ? Kernwerte{x, y, m.CJ_x, m.CJ_y} : Kernwerte{0.0, 0.0, x, y};
         orbitBeginnen(m, lauf, w);
         m.Orbitmodus = 2;
-        iterieren(w);
+        double betrQ = 0.0;
+        if (kern != nullptr) {
+            zyklusVoreinstellen(m, w.wertx0, w.werty0);
+            betrQ = (m.*kern)(w.wertx0, w.werty0, w.wertCx, w.wertCy);
+        }
         m.Orbitmodus = 1;
         if (m.g_RechnenJa >= 1) {
-            speichern(spalte, zeile);
+            lauf.werte(m, zeile)[index] = betrQ;
+            lauf.anzahlen(m, zeile)[index] = m.privateIterat;
+        }
+    }
+
+    /// The outermost computed rows and columns are stored as 0, whatever the kernel returned.
+    void rahmenSetzen(qint32 zeile) {
+        const auto nullSetzen = [&](qint32 von, qint32 bis) {
+            const auto ab = static_cast<std::size_t>(von);
+            const auto anzahl = static_cast<std::size_t>(bis - von);
+            std::ranges::fill(lauf.werte(m, zeile).subspan(ab, anzahl), 0.0);
+            std::ranges::fill(lauf.anzahlen(m, zeile).subspan(ab, anzahl), 0);
+        };
+        if (zeile == lauf.CyStart || zeile == lauf.Zeilen - 1) {
+            nullSetzen(lauf.CxStart, lauf.Spalten);
+        } else if (lauf.CxStart < lauf.Spalten) {
+            nullSetzen(lauf.CxStart, lauf.CxStart + 1);
+            nullSetzen(lauf.Spalten - 1, lauf.Spalten);
         }
     }
 
@@ -93,6 +111,7 @@ class Pass {
     Bildlauf& lauf;
     Kern kern;
     Linien linien;
+    std::array<double, Mandelbrot::BildMax> xWerte{}; ///< real coordinates of the row's columns
 };
 
 } // namespace
