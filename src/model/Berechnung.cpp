@@ -10,9 +10,6 @@
 
 namespace {
 
-constexpr qint32 MatrixAb = 1000;
-constexpr qint32 Streifenbreite = 20; ///< pixels right of the picture
-
 /// What a file or the panel may have left out of range.
 void felderRichten(Mandelbrot& m) {
     m.set_wahl_Gleichung(m.wahl_Gleichung);
@@ -20,7 +17,7 @@ void felderRichten(Mandelbrot& m) {
 }
 
 void bildflaecheAnpassen(Mandelbrot& m, const Bildlauf& lauf) {
-    const QSize groesse(lauf.SpaltenKLGross + Streifenbreite, lauf.ZeilenKLGross);
+    const QSize groesse(lauf.SpaltenKLGross + Mandelbrot::Streifenbreite, lauf.ZeilenKLGross);
     if (m.Bildflaeche.size() != groesse) {
         m.Bildflaeche = QImage(groesse, QImage::Format_ARGB32_Premultiplied);
         m.Bildflaeche.fill(Qt::transparent);
@@ -104,8 +101,8 @@ void Mandelbrot::Berechnung(QPainter* Paint) {
     if (g_VorschauAusJa == 1 && g_RechnenJa == 3) {
         g_RechnenJa = 1;
     }
+    lauf.Matrix = zahl_Matrix >= MatrixEin;
     abmessungen(*this, lauf);
-    lauf.Matrix = zahl_Matrix >= MatrixAb;
     if (!isVisible()) {
         return;
     }

@@ -6,22 +6,22 @@
 
 namespace {
 
-constexpr qint32 Streifenbreite = 20;    ///< pixels kept free for the palette strip
 constexpr qint32 StandardVorschau = 100; ///< pixels
 
-/// The picture that this paint will show is a preview.
-bool zeigtVorschau(const Mandelbrot& m) {
-    return istVorschau(modusNachAnforderung(m.g_halbesBild, m.g_RechnenJa == 3 ? 3 : 0));
+/// The picture that this paint will show is a preview. The matrix view always fills its cells.
+bool zeigtVorschau(const Mandelbrot& m, const Bildlauf& lauf) {
+    return !lauf.Matrix &&
+           istVorschau(modusNachAnforderung(m.g_halbesBild, m.g_RechnenJa == 3 ? 3 : 0));
 }
 
 } // namespace
 
 bool bildgroesse(const Mandelbrot& menge, Bildlauf& lauf) {
-    if (menge.width() <= Streifenbreite || menge.height() < 1) {
+    if (menge.width() <= Mandelbrot::Streifenbreite || menge.height() < 1) {
         return false;
     }
     const bool fest = menge.g_PixConstX > 0 && menge.g_PixConstY > 0;
-    const qint32 breite = fest ? menge.g_PixConstX : menge.width() - Streifenbreite;
+    const qint32 breite = fest ? menge.g_PixConstX : menge.width() - Mandelbrot::Streifenbreite;
     const qint32 hoehe = fest ? menge.g_PixConstY : menge.height();
     lauf.SpaltenKLGross = std::min(breite, qint32{Mandelbrot::BildMax});
     lauf.ZeilenKLGross = std::min(hoehe, qint32{Mandelbrot::BildMax});
@@ -29,16 +29,15 @@ bool bildgroesse(const Mandelbrot& menge, Bildlauf& lauf) {
 }
 
 void abmessungen(Mandelbrot& menge, Bildlauf& lauf) {
-    const bool vorschau = zeigtVorschau(menge);
+    const bool vorschau = zeigtVorschau(menge, lauf);
     menge.g_Bildverhaeltnis = static_cast<double>(lauf.ZeilenKLGross) / lauf.SpaltenKLGross;
-    if (vorschau && menge.g_PixVorschauX >= 1 && menge.g_PixVorschauX != StandardVorschau &&
-        menge.g_PixVorschauY > 1) {
-        menge.g_Bildverhaeltnis = static_cast<double>(menge.g_PixVorschauY) / menge.g_PixVorschauX;
-    }
     const qint32 pX = menge.g_PixVorschauX < 1 ? StandardVorschau : menge.g_PixVorschauX;
     const qint32 hoeheDazu = truncSat(menge.g_Bildverhaeltnis * pX);
     if (menge.g_PixVorschauY == 0) {
         menge.g_PixVorschauY = hoeheDazu;
+    }
+    if (vorschau && pX != StandardVorschau && menge.g_PixVorschauY > 1) {
+        menge.g_Bildverhaeltnis = static_cast<double>(menge.g_PixVorschauY) / pX;
     }
     const qint32 pY = menge.g_PixVorschauY < 1 ? std::max(hoeheDazu, 1) : menge.g_PixVorschauY;
 

@@ -8,9 +8,6 @@
 
 namespace {
 
-constexpr qint32 Streifenbreite = 20; ///< pixels right of the picture that a click ignores
-constexpr qint32 MatrixEin = 1000;
-
 /// A click made local to the picture that is shown.
 struct Klick {
     qint32 x = 0, y = 0;
@@ -23,7 +20,7 @@ struct Klick {
 Klick klickOrten(const Mandelbrot& m, const QPoint& stelle) {
     Klick k{.x = stelle.x(),
             .y = stelle.y(),
-            .Spalten = std::min(m.width() - Streifenbreite, int{Mandelbrot::BildMax}),
+            .Spalten = std::min(m.width() - Mandelbrot::Streifenbreite, int{Mandelbrot::BildMax}),
             .Zeilen = std::min(m.height(), int{Mandelbrot::BildMax})};
     if (istVorschau(m.g_halbesBild) || k.Spalten < 1 || k.Zeilen < 1) {
         k.gogo = false;
@@ -69,7 +66,7 @@ void zoomen(Mandelbrot& m, const Klick& k) {
 }
 
 /// Band 1 to 4 of a position, 0 exactly on a border.
-int band(qint32 wert, qint32 zelle) {
+int band(qint32 wert, qint64 zelle) {
     for (int i = 1; i <= 3; ++i) {
         if (wert == i * zelle) {
             return 0;

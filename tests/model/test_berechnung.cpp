@@ -331,6 +331,13 @@ void TestBerechnung::vorschauMasse() {
     m->g_PixVorschauY = 0;
     malen(*m);
     QCOMPARE(m->g_PixVorschauY, 50);
+    m->g_PixVorschauX = 130;
+    m->g_PixVorschauY = 0;
+    m->resize(421, 200);
+    m->g_RechnenJa = 3;
+    malen(*m);
+    QCOMPARE(m->g_PixVorschauY, 64);
+    QCOMPARE(m->g_Bildverhaeltnis, 64.0 / 130.0);
 }
 
 void TestBerechnung::absurd_data() {
@@ -374,6 +381,7 @@ void TestBerechnung::absurd() {
     m->OPx = m->OPy = ganz[5];
     m->g_Gitterabstand = reell[1];
     m->g_GitterJa = 1;
+    m->TeilerColorbild = reell[1];
     for (const int anforderung : {1, 3, 2, 0}) {
         m->g_RechnenJa = anforderung;
         m->g_OrbitJa = anforderung == 2 ? 5 : 0;

@@ -40,6 +40,8 @@ class TestOrbit : public QObject {
     void startpunkt_data();
     void startpunkt();
     void pfade();
+    void lage_data();
+    void lage();
     void dickeUndSammlung_data();
     void dickeUndSammlung();
     void farben_data();
@@ -146,6 +148,68 @@ void TestOrbit::pfade() {
         QCOMPARE(QPointF(m->polygonPathM4.elementAt(i)), QPointF(x(i), y(i) + 1));
     }
     QVERIFY(std::abs(m->OrbitX[1] + 1.0) < 1e-9);
+}
+
+void TestOrbit::lage_data() {
+    QTest::addColumn<int>("modus");
+    QTest::addColumn<int>("matrix");
+    QTest::addColumn<QRect>("rechteck"); // where the whole plane rectangle is drawn
+    QTest::newRow("full") << 0 << 11 << QRect(0, 0, 416, 320);
+    QTest::newRow("quarter 1") << 1 << 11 << QRect(0, 0, 208, 160);
+    QTest::newRow("quarter 2") << 2 << 11 << QRect(208, 0, 208, 160);
+    QTest::newRow("quarter 3") << 3 << 11 << QRect(0, 160, 208, 160);
+    QTest::newRow("quarter 4") << 4 << 11 << QRect(208, 160, 208, 160);
+    QTest::newRow("preview") << 10 << 11 << QRect(256, 0, 160, 80);
+    QTest::newRow("preview 1") << 11 << 11 << QRect(0, 0, 160, 80);
+    QTest::newRow("preview 4") << 14 << 11 << QRect(208, 160, 160, 80);
+    QTest::newRow("preview bottom right") << 400 << 11 << QRect(256, 240, 160, 80);
+    QTest::newRow("matrix") << 0 << 1000 << QRect(0, 0, 104, 80);
+    QTest::newRow("matrix, quarter") << 1 << 1000 << QRect(0, 0, 52, 40);
+    QTest::newRow("matrix, preview") << 10 << 1000 << QRect(0, 0, 52, 40);
+}
+
+// The polygon lies on the pixels that show its points, also with the orbit from the centre.
+void TestOrbit::lage() {
+    QFETCH(int, modus);
+    QFETCH(int, matrix);
+    QFETCH(QRect, rechteck);
+    const auto m = bildprobe(416, 320);
+    m->MP_x = -0.9; // its orbit jumps to and fro
+    m->MP_y = 0.2;
+    m->Br_x = 2.5;
+    m->zahl_Matrix = matrix;
+    m->g_PixVorschauX = 160;
+    m->g_PixVorschauY = 80;
+    m->g_halbesBild = modus;
+    m->g_maxOrbitIterat = 6;
+    m->g_RechnenJa = modus > 9 ? 3 : 1;
+    malen(*m);
+    m->g_OrbitJa = 5;
+    m->g_OrbitDuennJa = 1;
+    m->g_OrbitMP = 1;
+    const QImage bild = malen(*m);
+    QCOMPARE(QPoint(m->OPx, m->OPy), QPoint(rechteck.width() / 2, rechteck.height() / 2));
+    const double schritt = m->Br_x / rechteck.width();
+    const auto pixel = [&](double x, double y) {
+        return QPointF(rechteck.x() + rechteck.width() / 2.0 + (x - m->MP_x) / schritt,
+                       rechteck.y() + rechteck.height() / 2.0 - (y - m->MP_y) / schritt);
+    };
+    const QPainterPath& pfad = m->polygonPathM1;
+    QCOMPARE(pfad.elementCount(), 6); // the first iterate is the start point itself
+    for (int i = 0; i < 6; ++i) {
+        const QPointF ist = pfad.elementAt(i);
+        const QPointF soll = pixel(m->OrbitX[std::size_t(i) + 1], m->OrbitY[std::size_t(i) + 1]);
+        QVERIFY2((ist - soll).manhattanLength() <= 3.0,
+                 qPrintable(QString("point %1: (%2, %3) instead of (%4, %5)")
+                                .arg(i)
+                                .arg(ist.x())
+                                .arg(ist.y())
+                                .arg(soll.x())
+                                .arg(soll.y())));
+        QCOMPARE(bild.pixelColor(ist.toPoint()), QColor(255, 255, 0));
+    }
+    m->g_RechnenJa = modus > 9 ? 3 : 0;
+    QCOMPARE(malen(*m), bild);
 }
 
 void TestOrbit::dickeUndSammlung_data() {
