@@ -115,7 +115,7 @@ constexpr int KleinsteSchrift = 8;
 constexpr int SchmaleSpalte = 60; ///< below it the arrows of a spin box leave no room for digits
 /// Shares of the panel's width. The columns follow them alone, never the texts in them; as pixels
 /// they are the columns of the start size.
-constexpr std::array<int, Spalten> Anteile{69, 87, 82};
+constexpr std::array<int, Spalten> Anteile{71, 87, 80};
 
 int spaltenbreite(int feldbreite, std::size_t spalte) {
     const int summe = std::accumulate(Anteile.begin(), Anteile.end(), 0);
@@ -182,6 +182,14 @@ struct Zellenbauer {
     void setzen(QWidget* teil, int spalten = 1) const {
         teil->setFont(schrift); // not inherited in a panel with a style sheet
         teil->setSizePolicy(QSizePolicy::Ignored, teil->sizePolicy().verticalPolicy());
+        if (zeile < ZeilenOben) {
+            // The upper panel stays light grey on a dark desktop too.
+            QPalette farben = teil->palette();
+            for (const auto rolle : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+                farben.setColor(rolle, Qt::black);
+            }
+            teil->setPalette(farben);
+        }
         gitter.addWidget(teil, zeile, spalte, 1, spalten);
     }
 
@@ -206,6 +214,9 @@ struct Zellenbauer {
         auto* neu = new QPushButton(UI::tr(taste.text));
         ui.*taste.ziel = neu;
         neu->setStyleSheet(taste.stil);
+        if (!passt(schrift, taste.text, breite)) {
+            neu->setToolTip(neu->text());
+        }
         setzen(neu, taste.spalten);
         const QByteArray slot = QByteArray::number(QSLOT_CODE) + taste.slot;
         QObject::connect(neu, SIGNAL(clicked()), &ui, slot.constData());
@@ -214,7 +225,12 @@ struct Zellenbauer {
     void operator()(const Anzeige& feld) const {
         ui.*feld.ziel = new QLabel;
         setzen(ui.*feld.ziel);
+        // Neither the width nor the height of a later text moves anything.
         (ui.*feld.ziel)->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
+        QFont kleiner = schrift; // the texts to come are bold
+        kleiner.setPixelSize(std::max(KleinsteSchrift, schrift.pixelSize() - 1));
+        (ui.*feld.ziel)->setFont(kleiner);
+        gitter.setRowMinimumHeight(zeile, QFontMetrics(schrift).height() + 2 * RandAufschrift);
     }
 
     void operator()(const Schieber& feld) const {
