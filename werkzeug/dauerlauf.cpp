@@ -1,0 +1,216 @@
+// Robustness run: drives the live window with seeded random commands, clicks, panel values, window
+// sizes and files, and stops at the first unexpected warning; a sanitizer build also stops at any
+// report. Prints the seed and the last steps, so that a failure can be repeated.
+//
+//     wirbelwerk_dauerlauf [STEPS [SEED]]          (default 20000 steps, seed 1)
+//
+// Orbit lists are written to the working directory; start it in a scratch folder.
+
+#include "files/Bilddaten.h"
+#include "UI_Hauptfenster.h"
+
+#include <QBuffer>
+#include <QDeadlineTimer>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QMetaMethod>
+#include <QMouseEvent>
+#include <QTextStream>
+#include <QTimer>
+
+#include <deque>
+#include <random>
+
+namespace {
+
+constexpr int GezeigteSchritte = 30;       ///< last steps that a failure prints
+constexpr int LangsamerSchritt = 20000;    ///< milliseconds after which a step counts as hanging
+constexpr qint32 Iterationsgrenze = 60;    ///< keeps one picture short
+constexpr QSize GroessteAnsicht(700, 500); ///< larger windows are left again after a few steps
+
+std::deque<QString> letzteSchritte;
+bool fehler = false;
+
+void melden(const QString& text) {
+    QTextStream aus(stderr);
+    aus << text << "\nlast steps:\n";
+    for (const QString& schritt : letzteSchritte) {
+        aus << "  " << schritt << '\n';
+    }
+    aus.flush();
+    fehler = true;
+}
+
+/// Progress lines are normal, and so is Qt's refusal of a second layout on the main window, and the
+/// scratch surroundings of a virtual display.
+void warnungPruefen(QtMsgType art, const QMessageLogContext& /*kontext*/, const QString& text) {
+    const bool erwartet =
+        art == QtDebugMsg || art == QtInfoMsg || text.contains("which already has a layout") ||
+        text.startsWith("QStandardPaths: ") || text.startsWith("This plugin does not support");
+    if (!erwartet) {
+        melden("unexpected message: " + text);
+    }
+}
+
+class Dauerlauf {
+  public:
+    explicit Dauerlauf(quint32 saat) : zufall(saat) {
+        const QMetaObject& meta = UI::staticMetaObject;
+        for (int i = meta.methodOffset(); i < meta.methodCount(); ++i) {
+            const QMetaMethod methode = meta.method(i);
+            if (methode.methodType() == QMetaMethod::Slot && methode.parameterCount() == 0) {
+                befehle.push_back(methode);
+            }
+        }
+        QObject::connect(&boxenSchliesser, &QTimer::timeout, &boxenSchliesser, [] {
+            if (QWidget* const box = QApplication::activeModalWidget()) {
+                box->close();
+            }
+        });
+        boxenSchliesser.start(1);
+        fenster.show();
+    }
+
+    void laufen(int schritte) {
+        QElapsedTimer uhr;
+        for (int n = 1; n <= schritte && !fehler; ++n) {
+            uhr.start();
+            schritt(n);
+            QApplication::processEvents();
+            kurzHalten();
+            if (uhr.elapsed() > LangsamerSchritt) {
+                melden(QString("step %1 took %2 ms").arg(n).arg(uhr.elapsed()));
+            }
+            if (n % 1000 == 0) {
+                QTextStream(stdout) << n << " steps\n";
+            }
+        }
+    }
+
+  private:
+    int bis(int grenze) { return std::uniform_int_distribution<int>(0, grenze - 1)(zufall); }
+
+    double zahl() {
+        constexpr std::array<double, 14> besondere{0.0,  -0.0,  1.0,   -1.0,  0.5,    1e30,  -1e30,
+                                                   1e-9, 1e-16, 400.0, 1e300, 5e-324, -1e-5, 3.0};
+        return bis(2) == 0 ? besondere[static_cast<std::size_t>(bis(14))]
+                           : std::uniform_real_distribution<double>(-3.0, 3.0)(zufall);
+    }
+
+    int ganzzahl() {
+        constexpr std::array<int, 10> besondere{0,    -1,       1,         1000,       999,
+                                                1005, 90000000, -90000000, 2147483647, -2147483647};
+        return bis(3) == 0 ? besondere[static_cast<std::size_t>(bis(10))] : bis(60) - 5;
+    }
+
+    void merken(int n, const QString& text) {
+        letzteSchritte.push_back(QString("%1: %2").arg(n).arg(text));
+        if (letzteSchritte.size() > GezeigteSchritte) {
+            letzteSchritte.pop_front();
+        }
+    }
+
+    void schritt(int n) {
+        switch (bis(20)) {
+        case 0:
+        case 1:
+        case 2:
+            return klicken(n);
+        case 3:
+        case 4:
+            return eintragen(n);
+        case 5:
+            return dateiLaden(n);
+        case 6:
+            return bis(5) == 0 ? groesseAendern(n) : klicken(n);
+        default:
+            return befehl(n);
+        }
+    }
+
+    void befehl(int n) {
+        const QMetaMethod methode = befehle[static_cast<std::size_t>(bis(int(befehle.size())))];
+        merken(n, QString::fromLatin1(methode.name()));
+        methode.invoke(&fenster, Qt::DirectConnection);
+    }
+
+    void klicken(int n) {
+        const QPointF stelle(bis(fenster.Menge->width() + 20) - 10,
+                             bis(fenster.Menge->height() + 20) - 10);
+        merken(n, QString("click %1, %2").arg(stelle.x()).arg(stelle.y()));
+        QMouseEvent klick(QEvent::MouseButtonPress, stelle, fenster.Menge->mapToGlobal(stelle),
+                          Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(fenster.Menge, &klick);
+    }
+
+    void eintragen(int n) {
+        const auto reelle = fenster.findChildren<QDoubleSpinBox*>();
+        const auto ganze = fenster.findChildren<QSpinBox*>();
+        for (int i = bis(4); i >= 0; --i) {
+            if (bis(2) == 0) {
+                reelle[bis(int(reelle.size()))]->setValue(zahl());
+            } else {
+                ganze[bis(int(ganze.size()))]->setValue(ganzzahl());
+            }
+        }
+        fenster.UI_Iterationen->setValue(std::min(fenster.UI_Iterationen->value(), 2000));
+        merken(n, "values and Start!");
+        bis(3) == 0 ? fenster.VorschauSlot() : fenster.NeueBerechnungSlot();
+    }
+
+    void dateiLaden(int n) {
+        merken(n, "file");
+        QByteArray inhalt = bilddatenSchreiben(fenster);
+        for (int i = bis(12); i > 0; --i) {
+            inhalt[bis(int(inhalt.size()))] = static_cast<char>(bis(256));
+        }
+        if (bis(3) == 0) {
+            inhalt.truncate(bis(217));
+        }
+        QBuffer quelle(&inhalt);
+        quelle.open(QIODevice::ReadOnly);
+        bilddatenLesen(quelle, fenster);
+        fenster.UI_Iterationen->setValue(std::min(fenster.UI_Iterationen->value(), 2000));
+        fenster.NeueBerechnungSlot();
+    }
+
+    void groesseAendern(int n) {
+        const QSize groesse(1 + bis(bis(8) == 0 ? 1600 : 600), 1 + bis(bis(8) == 0 ? 1300 : 400));
+        merken(n, QString("size %1 x %2").arg(groesse.width()).arg(groesse.height()));
+        fenster.resize(groesse);
+    }
+
+    /// The run tests commands, not patience: few iterations, small windows.
+    void kurzHalten() {
+        if (fenster.Menge->Max_Iterationen > 2000 || bis(20) == 0) {
+            fenster.Menge->Max_Iterationen = Iterationsgrenze;
+            fenster.UI_Iterationen->setValue(Iterationsgrenze);
+        }
+        const bool gross = fenster.width() > GroessteAnsicht.width() ||
+                           fenster.height() > GroessteAnsicht.height();
+        if (gross && bis(3) == 0) {
+            fenster.resize(300 + bis(100), 200 + bis(100));
+        }
+    }
+
+    std::mt19937 zufall;
+    UI fenster;
+    QTimer boxenSchliesser;
+    std::vector<QMetaMethod> befehle;
+};
+
+} // namespace
+
+int main(int argc, char** argv) {
+    QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+    const QApplication app(argc, argv);
+    const QStringList worte = QApplication::arguments();
+    const int schritte = worte.size() > 1 ? worte[1].toInt() : 20000;
+    const quint32 saat = worte.size() > 2 ? worte[2].toUInt() : 1;
+    qInstallMessageHandler(warnungPruefen);
+    QTextStream(stdout) << schritte << " steps with seed " << saat << '\n';
+    Dauerlauf(saat).laufen(schritte);
+    QTextStream(stdout) << (fehler ? "stopped at a fault\n" : "no fault\n");
+    return fehler ? 1 : 0;
+}
