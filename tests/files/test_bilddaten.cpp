@@ -1,6 +1,7 @@
 #include "files/Bilddaten.h"
 
 #include "Dialogfuehrer.h"
+#include "Testdateien.h"
 
 #include <QBuffer>
 #include <QRandomGenerator>
@@ -62,11 +63,14 @@ Inhalt inhalt(const UI& u) {
 /// A file laid out by hand: integers from byte 0, reals from byte 104.
 QByteArray datei(const Inhalt& werte) {
     QByteArray bytes(216, '\0');
-    for (int i = 0; i < Ganze; ++i) {
-        qToLittleEndian(werte.ganze[static_cast<std::size_t>(i)], bytes.data() + 4 * i);
+    char* stelle = bytes.data();
+    for (const qint32 wert : werte.ganze) {
+        qToLittleEndian(wert, stelle);
+        stelle += 4;
     }
-    for (int i = 0; i < Reelle; ++i) {
-        qToLittleEndian(werte.reelle[static_cast<std::size_t>(i)], bytes.data() + 104 + 8 * i);
+    for (const double wert : werte.reelle) {
+        qToLittleEndian(wert, stelle);
+        stelle += 8;
     }
     return bytes;
 }
@@ -115,21 +119,14 @@ QByteArray zufall(QRandomGenerator& wuerfel, qsizetype laenge) {
     return bytes;
 }
 
-void ablegen(const QString& name, const QByteArray& bytes) {
-    QFile ziel(name);
-    QVERIFY(ziel.open(QIODevice::WriteOnly));
-    ziel.write(bytes);
-}
-
-QByteArray bytesVon(const QString& name) {
-    QFile quelle(name);
-    return quelle.open(QIODevice::ReadOnly) ? quelle.readAll() : QByteArray();
-}
-
 } // namespace
 
 class TestBilddaten : public QObject {
     Q_OBJECT
+
+    std::unique_ptr<UI> fenster;
+    std::unique_ptr<QTemporaryDir> ordner;
+    QString pfad(const QString& name) const { return ordner->filePath(name); }
 
   private Q_SLOTS:
     void initTestCase();
@@ -149,11 +146,6 @@ class TestBilddaten : public QObject {
     void ladenFehler();
     void abbrechen();
     void zufallsbilder();
-
-  private:
-    std::unique_ptr<UI> fenster;
-    std::unique_ptr<QTemporaryDir> ordner;
-    QString pfad(const QString& name) const { return ordner->filePath(name); }
 };
 
 void TestBilddaten::initTestCase() {
@@ -234,7 +226,7 @@ void TestBilddaten::zufallsdateien() {
         lesen(*fenster, bytes);
         const Inhalt da = inhalt(*fenster);
         const QByteArray lang = bytes + QByteArray(216, '\0');
-        for (int i = 0; i < Ganze && 4 * i + 4 <= bytes.size(); ++i) {
+        for (qsizetype i = 0; i < Ganze && 4 * i + 4 <= bytes.size(); ++i) {
             const qint32 gelesen = qFromLittleEndian<qint32>(lang.constData() + 4 * i);
             QCOMPARE(da.ganze[static_cast<std::size_t>(i)],
                      i < GanzeImFeld ? std::clamp(gelesen, -BoxGrenze, BoxGrenze) : gelesen);

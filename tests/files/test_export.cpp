@@ -1,6 +1,7 @@
 #include "files/Dateiausgabe.h"
 
 #include "Dialogfuehrer.h"
+#include "Testdateien.h"
 
 #include "UI_Hauptfenster.h"
 
@@ -13,23 +14,14 @@
 #include <sys/resource.h>
 #endif
 
-namespace {
-
-QByteArray bytesVon(const QString& name) {
-    QFile quelle(name);
-    return quelle.open(QIODevice::ReadOnly) ? quelle.readAll() : QByteArray();
-}
-
-void ablegen(const QString& name, const QByteArray& bytes) {
-    QFile ziel(name);
-    QVERIFY(ziel.open(QIODevice::WriteOnly));
-    ziel.write(bytes);
-}
-
-} // namespace
-
 class TestExport : public QObject {
     Q_OBJECT
+
+    std::unique_ptr<UI> fenster;
+    std::unique_ptr<QTemporaryDir> ordner;
+    QString ausgangsordner;
+    QString pfad(const QString& name) const { return ordner->filePath(name); }
+    QStringList dateien() const { return QDir(ordner->path()).entryList(QDir::Files); }
 
   private Q_SLOTS:
     void initTestCase();
@@ -45,13 +37,6 @@ class TestExport : public QObject {
     void listeAnhaengen();
     void listeOhneOrbit();
     void listeOhneOrdner();
-
-  private:
-    std::unique_ptr<UI> fenster;
-    std::unique_ptr<QTemporaryDir> ordner;
-    QString ausgangsordner;
-    QString pfad(const QString& name) const { return ordner->filePath(name); }
-    QStringList dateien() const { return QDir(ordner->path()).entryList(QDir::Files); }
 };
 
 void TestExport::initTestCase() {

@@ -42,21 +42,21 @@ class TestOrbitliste : public QObject {
 
 void TestOrbitliste::ganzeListe() {
     const QStringList stuecke{
-        "<html><head><title>Orbit-Liste09 07:05</title></head><body><br>Wirbelwerk1.5"
+        "<html><head><title>Orbit-Liste09 07:05</title></head><body><br>Wirbelwerk1.5",
         "(https://wirbelwerk.example) am 2024-03-09 07:05:02<br>",
         "Gleichung Z*Z+C<br>",
         "Bildmittelpunkt (-0.5000000000000000, 0.2500000000000000)<br>",
         "Bildbreite 4.0000000000000000 , maxIterat.= 256 , maxZyklen= 7<br>",
         "NrAbbr.= 3, ZahlAbbr.= 100.0000000000000000<br>",
         "C-Julia= (0.1250000000000000, -0.7500000000000000) , K-Potenz= 10<br>",
-        "Hinweise: Mit <b>Linien/(Orbit-Start vom Bild-Mittelpunkt)</b> kann scharf eingestellter "
-        "Orbit-Start trotz anschließend vergrößertem Grafikbild gerechnet werden. (Start ohne "
+        "Hinweise: Mit <b>Linien/(Orbit-Start vom Bild-Mittelpunkt)</b> kann scharf eingestellter ",
+        "Orbit-Start trotz anschließend vergrößertem Grafikbild gerechnet werden. (Start ohne ",
         "Maus)",
-        "<br>Für Fortsetzung: maxIt.erhöhen, dann z.B. Zoom=255.0, Start!-Button zum Einlesen von "
+        "<br>Für Fortsetzung: maxIt.erhöhen, dann z.B. Zoom=255.0, Start!-Button zum Einlesen von ",
         "ZOOM, ",
         "<br>und dann <b>Linien/(Orbit erst ab Iterat..)</b> anwählen",
         "<br>Verkürztes Orbit: <b>Linien/(maximal 15 Iterationen)</b> usw.",
-        "<br><br>Z(x+iy)-Werte für 120 Iterationen am Punkt (0.123457, -2), ab Iteration=11 und "
+        "<br><br>Z(x+iy)-Werte für 120 Iterationen am Punkt (0.123457, -2), ab Iteration=11 und ",
         "angezeigter Pixel-Position<br><br>",
         "11. (-1.0000000000000000, 0.5000000000000000) 11,22<br>",
         "12. (0.2500000000000000, -0.5000000000000000) 301,412<br>",
