@@ -212,16 +212,17 @@ inline void stelle(UI& ui, const Stand& stand) {
         ziel = static_cast<std::remove_reference_t<decltype(ziel)>>(wert);
     };
     for (const auto& [name, zeiger] : Felder) {
-        std::visit([&](auto z) { setze(ui.Menge->*z, stand.feld.at(name)); }, zeiger);
+        const double wert = stand.feld.at(name);
+        std::visit([&](auto z) { setze(ui.Menge->*z, wert); }, zeiger);
     }
     for (const auto& [name, zeiger] : Boxen) {
-        std::visit(
-            [&](auto z) {
-                auto wert = (ui.*z)->value();
-                setze(wert, stand.box.at(name));
-                (ui.*z)->setValue(wert);
-            },
-            zeiger);
+        const double wert = stand.box.at(name);
+        const auto zeige = [&](auto z) {
+            auto ganzOderReell = (ui.*z)->value();
+            setze(ganzOderReell, wert);
+            (ui.*z)->setValue(ganzOderReell);
+        };
+        std::visit(zeige, zeiger);
     }
     for (const auto& [name, zeiger] : Labels) {
         (ui.*zeiger)->setText(stand.label.at(name));

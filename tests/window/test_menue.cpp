@@ -60,7 +60,7 @@ void schreibe(UI& fenster, QMenu* menue, int tiefe, QStringList& zeilen) {
             name = eintrag.name;
         }
     }
-    const QString rand(2 * tiefe, u' ');
+    const QString rand(qsizetype{2} * tiefe, u' ');
     zeilen << QString("%1menu %2 \"%3\"").arg(rand, name, menue->title());
     for (QAction* aktion : menue->actions()) {
         if (aktion->menu() != nullptr) {
