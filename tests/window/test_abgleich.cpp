@@ -146,6 +146,8 @@ const std::array<Titelfall, 21> Titelfaelle{{
 class TestAbgleich : public QObject {
     Q_OBJECT
 
+    std::unique_ptr<UI> ui;
+
   private Q_SLOTS:
     void init() { ui = std::make_unique<UI>(); }
 
@@ -158,9 +160,6 @@ class TestAbgleich : public QObject {
     void titel_data();
     void titel();
     void titelNachDemBild();
-
-  private:
-    std::unique_ptr<UI> ui;
 };
 
 void TestAbgleich::modellZumFeld() {

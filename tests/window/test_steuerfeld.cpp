@@ -88,6 +88,8 @@ int textbreite(const QWidget* teil) {
 class TestSteuerfeld : public QObject {
     Q_OBJECT
 
+    std::unique_ptr<UI> ui;
+
   private Q_SLOTS:
     void init() { ui = std::make_unique<UI>(); }
 
@@ -103,9 +105,6 @@ class TestSteuerfeld : public QObject {
     void groessen();
     void anfangDerZahl();
     void neuAufgebaut();
-
-  private:
-    std::unique_ptr<UI> ui;
 };
 
 void TestSteuerfeld::fenster() {
