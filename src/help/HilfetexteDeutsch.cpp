@@ -26,8 +26,8 @@ streckt, und aus lauter Drehungen und Streckungen entstehen die Wirbel in den Bi
 ZS ist das Spiegelbild von Z an der waagrechten Achse; nur das Vorzeichen von y ändert sich:<br>
 &nbsp;&nbsp;&nbsp;<b>ZS = x - i*y</b><br>
 &nbsp;&nbsp;&nbsp;Z*ZS = x*x + y*y<br>
-Das Produkt Z*ZS hat keinen Imaginärteil und ist nie negativ: Es ist der Abstand zum Quadrat. In
-den Namen der Gleichungen steht Zq für Z*Z und Zm für Z*ZS.<br>
+Das Produkt Z*ZS hat keinen Imaginärteil und ist nie negativ: Es ist das Quadrat des Abstands.
+In den Namen der Gleichungen steht Zq für Z*Z und Zm für Z*ZS.<br>
 <br>
 <b>C, das Raster des Bildes</b><br>
 Das Bild ist ein Ausschnitt dieser Ebene, und jeder Bildpunkt steht für eine Zahl C. „Mittelpkt. X“
@@ -42,8 +42,8 @@ constexpr Hilfetext Fraktale{
 Ein Fraktal entsteht aus einer einfachen Regel, deren Ergebnis stets wieder eingesetzt wird. Die
 Regel der Mandelbrotmenge lautet:<br>
 &nbsp;&nbsp;&nbsp;<b>Z = Z*Z + C</b>, am Anfang Z = 0<br>
-Jeder Bildpunkt ist eine komplexe Zahl C. Für jeden wird die Regel wiederholt (iteriert). Drei
-Beispiele:<br>
+Jeder Bildpunkt ist eine komplexe Zahl C, ein Punkt der Ebene (mehr unter „About Komplexe Zahlen“).
+Für jeden wird die Regel wiederholt (iteriert). Drei Beispiele:<br>
 &nbsp;&nbsp;&nbsp;C = 1: &nbsp;0, 1, 2, 5, 26, ... &nbsp;wächst über alle Grenzen<br>
 &nbsp;&nbsp;&nbsp;C = -1: &nbsp;0, -1, 0, -1, ... &nbsp;pendelt für immer<br>
 &nbsp;&nbsp;&nbsp;C = -0.5: &nbsp;0, -0.5, -0.25, -0.4375, ... &nbsp;kommt bei -0.366 zur Ruhe<br>
@@ -62,7 +62,7 @@ Orbit-Modus zeichnet solche Zyklen, NrAbbruch 4 und 5 färben danach.<br>
 <br>
 <b>Warum ZahlAbbr = 400?</b><br>
 Gerechnet wird höchstens bis maxIter, am Anfang 256. Vorher bricht die Rechnung ab, sobald<br>
-&nbsp;&nbsp;&nbsp;rq = x*x + y*y<br>
+&nbsp;&nbsp;&nbsp;rq = x*x + y*y &nbsp;(mit Z = x + i*y)<br>
 ZahlAbbr erreicht. Bei dieser Gleichung würde 4 genügen: Wer weiter als 2 vom Nullpunkt entfernt
 ist, kehrt nicht zurück. Der Vorgabewert 400, also Abstand 20, kostet nur wenige Schritte mehr. Dafür
 fällt C neben Z*Z kaum noch ins Gewicht, und die aus rq gebildeten Farben verlaufen weicher.<br>
@@ -70,7 +70,8 @@ fällt C neben Z*Z kaum noch ins Gewicht, und die aus rq gebildeten Farben verla
 <b>Juliamengen</b><br>
 Hält man C fest und beginnt mit Z an jedem Bildpunkt, entsteht eine Juliamenge, zu jedem C eine
 andere. Ein Klick in die Mandelbrotmenge trägt den Punkt bei „C-Julia X“ und „C-Julia Y“ ein; danach
-Gleichung 2 wählen.)html")};
+Gleichung 2 wählen. Mit Mittelpunkt 0 und Breite 4 ist die Juliamenge fast immer ganz zu
+sehen.)html")};
 
 constexpr Hilfetext SpezialFraktale{
     QT_TRANSLATE_NOOP("UI", "Was ist hier anders?"),
@@ -147,8 +148,8 @@ steht im Titel.<br>
 <br>
 <b>Vier Viertelbilder</b><br>
 „Groesse/Size“ rechnet mit „1/4 Bild Pos.1“ bis „Pos.4“ vier Bilder in ein Fenster; das Startbild
-ist das erste davon. Jede Position merkt sich ihre Einstellungen, Farben gelten für alle vier. „Aktives zum
-vollem Bild/FullPicture“ rechnet das letzte groß.)html")};
+ist das erste davon. Jede Position merkt sich ihre Einstellungen, Farben gelten für alle vier.
+„Aktives zum vollem Bild/FullPicture“ rechnet das letzte groß.)html")};
 
 constexpr Hilfetext Berechnung{
     QT_TRANSLATE_NOOP(
@@ -165,7 +166,7 @@ W.<br>
 <tr><td>0:&nbsp;</td><td>rq = sqrt(x*x + y*y)</td>
 <td>&nbsp;&nbsp;&nbsp;Abstand vom Nullpunkt</td></tr>
 <tr><td>1:</td><td>rq = x*x + y*y</td>
-<td>&nbsp;&nbsp;&nbsp;Abstand zum Quadrat, die übliche Wahl</td></tr>
+<td>&nbsp;&nbsp;&nbsp;Quadrat des Abstands, die übliche Wahl</td></tr>
 <tr><td>2:</td><td>rq = |x| + |y|</td>
 <td>&nbsp;&nbsp;&nbsp;Grenze ist ein Quadrat, das auf der Spitze steht</td></tr>
 <tr><td>3:</td><td>rq = x + y</td>
@@ -185,12 +186,12 @@ W.<br>
 </table>
 <br><br>
 <b>Zyklen suchen mit 4 und 5</b><br>
-Jedes neue Z wird mit den Werten vorher verglichen, mit dem jüngsten zuerst; ZyklusZahl (Standard 7,
-höchstens 24) sagt, wie weit zurück. Ein Zyklus ist gefunden, wenn<br>
+Jedes neue Z wird mit den Werten vorher verglichen, mit dem jüngsten zuerst, ZyklusZahl + 1 Werte
+weit (ZyklusZahl: Standard 7, höchstens 24). Ein Zyklus ist gefunden, wenn<br>
 &nbsp;&nbsp;&nbsp;delta = |x - xAlt| + |y - yAlt| &lt; Genau<br>
-mit Genau = 0.0001 als Standard. Farben ist die Zahl der Farben der Palette, Skal = Farben/ZyklusZahl
-ohne Rest. Die Fixpunkte um Null haben die Zykluszahl 1. Ohne Fund läuft der Punkt bis maxIter und
-behält rq = 0; auch Punkte, die davonlaufen, zählen hier also zum Inneren.<br>
+mit Genau = 0.0001 als Standard. Farben ist die Zahl der Farben der Palette, Zyklen die Länge des
+gefundenen Zyklus, Skal = Farben/ZyklusZahl ohne Rest. Die Fixpunkte um Null haben die Zykluszahl
+1. Ohne Fund läuft der Punkt bis maxIter und behält rq = 0; auch Punkte, die davonlaufen, zählen hier also zum Inneren.<br>
 Ein Fund beendet die Rechnung nur, wenn sein rq ZahlAbbr erreicht. Soll das nicht sein: ZahlAbbr
 erhöhen oder verdoppeln (Standard = 400). Dann laufen auch diese Punkte bis maxIter, und varKonv färbt
 sie nach rq. Mehr Iterationen und ein größeres Genau finden mehr Zyklen.)html")};
@@ -227,10 +228,12 @@ Zwillinge 1 bis 6 und 8 nichts; 7, 9, 10 und 11 nehmen dann C*(1+i).<br>
 Re und Im sind Real- und Imaginärteil.<br>
 <br>
 <b>Was wo gilt</b><br>
-Gleichungen 1 bis 10 kennen nur 1 bis 6. Bei 1 und 2 schaltet eine höhere Zahl den Zwilling ab. Bei
-3 und 4 wird aus 6 die 5, und diese rechnet für Z die Teile einzeln:<br>
+Gleichungen 1 bis 10 kennen nur 1 bis 6. Bei 1 und 2 schaltet eine höhere Zahl den Zwilling ab, bei
+3 bis 6, 9 und 10 bleibt sie ohne Wirkung. Bei 3 und 4 wird aus 6 die 5, und diese rechnet für Z die
+Teile einzeln:<br>
 &nbsp;&nbsp;&nbsp;A = (1 + Re(P*W))*Cx + i*(1 + Im(P*W))*Cy<br>
-Bei 7 und 8 gilt immer 1. Ab 101 gelten alle elf; nur die Newton-Gleichungen 109 bis 910 haben keinen Zwilling, ihnen dienen koppX und koppY als P.<br>
+Bei 7 und 8 gilt immer 1. Ab 101 gelten alle elf; nur die Newton-Gleichungen 109 bis 910 haben keinen
+Zwilling, ihnen dienen koppX und koppY als P.<br>
 <br>
 <b>Bedienen</b><br>
 Das Einschalten setzt ein koppX oder koppY, das 0 ist, auf den Wert von Zoom. Die Nummer der

@@ -41,12 +41,12 @@ constexpr Hilfetext Fractals{QT_TRANSLATE_NOOP("UI", "The Mandelbrot set as an e
 A fractal grows out of a simple rule whose result is put back in, again and again. The rule of the
 Mandelbrot set is:<br>
 &nbsp;&nbsp;&nbsp;<b>Z = Z*Z + C</b>, starting with Z = 0<br>
-Every pixel is a complex number C. For each of them the rule is repeated (iterated). Three
-examples:<br>
+Every pixel is a complex number C, a point of the plane (more in "About Complex Numbers"). For each
+of them the rule is repeated (iterated). Three examples:<br>
 &nbsp;&nbsp;&nbsp;C = 1: &nbsp;0, 1, 2, 5, 26, ... &nbsp;grows beyond all bounds<br>
-&nbsp;&nbsp;&nbsp;C = -1: &nbsp;0, -1, 0, -1, ... &nbsp;swings to and fro for ever<br>
+&nbsp;&nbsp;&nbsp;C = -1: &nbsp;0, -1, 0, -1, ... &nbsp;swings to and fro forever<br>
 &nbsp;&nbsp;&nbsp;C = -0.5: &nbsp;0, -0.5, -0.25, -0.4375, ... &nbsp;comes to rest at -0.366<br>
-If Z stays nearby for ever, C belongs to the Mandelbrot set (convergent). If Z runs away, C lies
+If Z stays nearby forever, C belongs to the Mandelbrot set (convergent). If Z runs away, C lies
 outside (divergent), and the color shows how fast. On the border a trifle decides between the two;
 that is why something new turns up there at every magnification.<br>
 <br>
@@ -61,7 +61,7 @@ such cycles, and NrAbbruch 4 and 5 color by them.<br>
 <br>
 <b>Why ZahlAbbr = 400?</b><br>
 At most maxIter steps are made, 256 at the start. The calculation stops earlier as soon as<br>
-&nbsp;&nbsp;&nbsp;rq = x*x + y*y<br>
+&nbsp;&nbsp;&nbsp;rq = x*x + y*y &nbsp;(with Z = x + i*y)<br>
 reaches ZahlAbbr, the bailout value. For this equation 4 would do: whatever is farther than 2 from
 the origin does not come back. The default of 400, a distance of 20, costs only a few more steps. In
 return, C hardly counts beside Z*Z any more, and colors made from rq run more smoothly.<br>
@@ -69,7 +69,7 @@ return, C hardly counts beside Z*Z any more, and colors made from rq run more sm
 <b>Julia sets</b><br>
 Keep C fixed and let Z start at every pixel, and you get a Julia set, a different one for each C. A
 click into the Mandelbrot set puts the point into "C-Julia X" and "C-Julia Y"; then choose
-equation 2.)html")};
+equation 2. With center 0 and width 4 you nearly always see the whole Julia set.)html")};
 
 constexpr Hilfetext SpecialFractals{QT_TRANSLATE_NOOP("UI", "What is different here?"),
                                     QT_TRANSLATE_NOOP("UI", R"html(<b>Exploring feedback</b><br>
@@ -145,8 +145,8 @@ A K other than 10 is shown in the title.<br>
 <br>
 <b>Four quarter pictures</b><br>
 In "Groesse/Size", "1/4 Bild Pos.1" to "Pos.4" calculate four pictures in one window; the start
-picture is the first of them. Each position remembers its settings, while colors hold for all four. "Aktives zum
-vollem Bild/FullPicture" calculates the last one full size.)html")};
+picture is the first of them. Each position remembers its settings, while colors hold for all four.
+"Aktives zum vollem Bild/FullPicture" calculates the last one full size.)html")};
 
 constexpr Hilfetext Calc{
     QT_TRANSLATE_NOOP(
@@ -182,15 +182,15 @@ The last value of rq is kept for the colors. With a twin, only Z counts, never W
 </table>
 <br><br>
 <b>Looking for cycles with 4 and 5</b><br>
-Each new Z is compared with the values before it, the latest first; ZyklusZahl (standard 7, at most
-24) says how far back. A cycle is found when<br>
+Each new Z is compared with the values before it, the latest first, ZyklusZahl + 1 values back
+(ZyklusZahl: standard 7, at most 24). A cycle is found when<br>
 &nbsp;&nbsp;&nbsp;delta = |x - xOld| + |y - yOld| &lt; Genau<br>
-with Genau = 0.0001 as the standard. "Colors" is the number of colors of the palette, and the scale
-is colors/ZyklusZahl without remainder. The fixed points around zero have the cycle number 1. If
+with Genau = 0.0001 as the standard. Here colors is the number of colors of the palette, cycle the
+length of the cycle found, and scale = colors/ZyklusZahl without remainder. The fixed points around zero have the cycle number 1. If
 nothing is found, the pixel runs on to maxIter and keeps rq = 0; so points that run away count as
 inside here.<br>
-A find ends the calculation only if its rq reaches ZahlAbbr. If you do not want that, increase or
-double ZahlAbbr (default = 400). Then these points run on to maxIter as well, and varKonv colors them
+A find ends the calculation only if its rq reaches ZahlAbbr. If you do not want that:
+increase/double the ZahlAbbruch (default=400). Then these points run on to maxIter as well, and varKonv colors them
 by rq. More iterations and a larger Genau find more cycles.)html")};
 
 constexpr Hilfetext Twin{
@@ -225,10 +225,11 @@ How strongly, is set by koppX and koppY, together P = koppX + i*koppY. If both a
 Re and Im are the real and the imaginary part.<br>
 <br>
 <b>What holds where</b><br>
-Equations 1 to 10 know only 1 to 6. In 1 and 2 a higher number switches the twin off. In 3 and 4, 6
-becomes 5, and 5 calculates the parts for Z one by one:<br>
+Equations 1 to 10 know only 1 to 6. In 1 and 2 a higher number switches the twin off, in 3 to 6, 9
+and 10 it has no effect. In 3 and 4, 6 becomes 5, and 5 calculates the parts for Z one by one:<br>
 &nbsp;&nbsp;&nbsp;A = (1 + Re(P*W))*Cx + i*(1 + Im(P*W))*Cy<br>
-In 7 and 8 it is always 1. From 101 on all eleven hold; only the Newton equations 109 to 910 have no twin, they use koppX and koppY as P.<br>
+In 7 and 8 it is always 1. From 101 on all eleven hold; only the Newton equations 109 to 910 have
+no twin, they use koppX and koppY as P.<br>
 <br>
 <b>Handling</b><br>
 Switching a twin on sets a koppX or koppY that is 0 to the value of Zoom. The number of the equation

@@ -253,6 +253,7 @@ void TestBilddaten::speichernDialog() {
                                     fenster->dt.toString("-yyyyMMdd-hh-mm-ss") + ".fraktal");
     QCOMPARE(fuehrer.filter, QStringList({"DatenWirbel (*.fraktal)", "Alle Dateien (*.*)"}));
     QCOMPARE(fuehrer.art, QFileDialog::AcceptSave);
+    QCOMPARE(fuehrer.optionen, QFileDialog::Options());
     QCOMPARE(fuehrer.elter, fenster.get());
     QCOMPARE(fuehrer.meldungen, QStringList());
     QCOMPARE(bytesVon(name), datei(beispiel()).left(200));
@@ -303,6 +304,7 @@ void TestBilddaten::ladenDialog() {
     QCOMPARE(fuehrer.vorschlag, QString("Bilddaten.fraktal"));
     QCOMPARE(fuehrer.filter, QStringList({"Bilddaten (*.fraktal)", "Alle Dateien (*.*)"}));
     QCOMPARE(fuehrer.art, QFileDialog::AcceptOpen);
+    QCOMPARE(fuehrer.optionen, QFileDialog::Options());
     QCOMPARE(fuehrer.elter, fenster.get());
     QCOMPARE(fuehrer.meldungen, QStringList());
     QCOMPARE(inhalt(*fenster).reelle, beispiel().reelle);
@@ -350,6 +352,8 @@ void TestBilddaten::ladenFehler() {
              QStringList({"Es ist ein Fehler aufgetreten!",
                           "Es ist ein Fehler beim laden der Datei:\n\n" + name + "\n\naufgetreten!",
                           "OK", "no parent"}));
+    QCOMPARE(fenster->UI_MPx->value(), -0.5); // reset to the start picture
+    QCOMPARE(fenster->Menge->MP_x, -0.5);
 }
 
 void TestBilddaten::abbrechen() {

@@ -101,6 +101,7 @@ void TestExport::bildDialog() {
     QCOMPARE(fuehrer.vorschlag, "Fraktal" + fenster->dt.toString("yyMMdd-hh-mm-ss") + ".png");
     QCOMPARE(fuehrer.filter, QStringList({"PNG-Bilder (*.png)", "Alle Dateien (*.*)"}));
     QCOMPARE(fuehrer.art, QFileDialog::AcceptSave);
+    QCOMPARE(fuehrer.optionen, QFileDialog::Options());
     QCOMPARE(fuehrer.elter, fenster.get());
     QCOMPARE(fuehrer.meldungen, QStringList());
     QVERIFY(std::abs(fenster->dt.secsTo(QDateTime::currentDateTime())) < 600);

@@ -1,6 +1,9 @@
 #include "colours/Farbwahl.h"
+#include "equations/Abbruch.h"
 #include "equations/Gleichungen.h"
+#include "equations/Zwilling.h"
 #include "help/Hilfetexte.h"
+#include "model/Einfaerbung.h"
 #include "Netzadresse.h"
 #include "Testbasis.h"
 #include "UI_Hauptfenster.h"
@@ -10,7 +13,7 @@
 #include <QTextDocument>
 #include <QTimer>
 
-#include <algorithm>
+#include <complex>
 #include <map>
 
 /// What a help box showed.
@@ -43,21 +46,109 @@ static QString sichtbar(const QString& html) {
     return dokument.toPlainText().replace(QChar::Nbsp, ' ');
 }
 
-/// Visible text of a topic without its blanks.
-static QString dicht(const Hilfetabelle& sprache, Hilfethema thema) {
-    return sichtbar(sprache.at(static_cast<std::size_t>(thema)).text)
-        .remove(QRegularExpression("\\s"));
+/// The rows "7: ..." of a topic: their further cells without blanks, by number.
+static std::map<int, QStringList> zeilen(const Hilfetabelle& sprache, Hilfethema thema) {
+    static const QRegularExpression zeile(
+        R"((?:<tr><td>|<td>(?:&nbsp;)+)(\d+):(?:&nbsp;)?</td>\s*<td>([^<]*)</td>(?:\s*<td>(?!(?:&nbsp;)+\d+:)([^<]*)</td>)?)");
+    std::map<int, QStringList> liste;
+    const QString text = sprache.at(static_cast<std::size_t>(thema)).text;
+    for (auto t = zeile.globalMatch(text); t.hasNext();) {
+        const auto m = t.next();
+        for (const int zelle : {2, 3}) {
+            liste[m.captured(1).toInt()] << m.captured(zelle).remove("&nbsp;").remove(' ');
+        }
+    }
+    return liste;
 }
 
-/// The numbers of the rows "7: ..." that a text has, in ascending order.
+using Komplex = std::complex<double>;
+
+/// Works out a formula as the texts write it.
+class Rechner {
+  public:
+    explicit Rechner(std::map<QString, Komplex> werte) : m_werte(std::move(werte)) {
+        m_werte["i"] = {0.0, 1.0};
+    }
+
+    /// NaN where the formula cannot be read.
+    Komplex operator()(const QString& formel) {
+        m_rest = formel;
+        const Komplex wert = summe();
+        return m_rest.isEmpty() ? wert : Komplex(std::nan(""));
+    }
+
+  private:
+    bool nimm(QChar zeichen) {
+        const bool da = m_rest.startsWith(zeichen);
+        m_rest.remove(0, da ? 1 : 0);
+        return da;
+    }
+    Komplex summe() {
+        Komplex s = produkt();
+        for (;;) {
+            if (nimm('+')) {
+                s += produkt();
+            } else if (nimm('-')) {
+                s -= produkt();
+            } else {
+                return s;
+            }
+        }
+    }
+    Komplex produkt() {
+        Komplex p = potenz();
+        for (;;) {
+            if (nimm('*')) {
+                p *= potenz();
+            } else if (nimm('/')) {
+                p /= potenz();
+            } else {
+                return p;
+            }
+        }
+    }
+    Komplex potenz() {
+        const Komplex grund = faktor();
+        return nimm('^') ? std::pow(grund, static_cast<int>(faktor().real())) : grund;
+    }
+    Komplex faktor() {
+        static const QRegularExpression wort("^(?:\\d+|[A-Za-z]+)");
+        const QString name = wort.match(m_rest).captured();
+        m_rest.remove(0, name.size());
+        if (const auto wert = m_werte.find(name); wert != m_werte.end()) {
+            return wert->second;
+        }
+        if (nimm('(') || nimm('|')) {
+            const Komplex k = summe();
+            const bool betrag = nimm('|');
+            return betrag || nimm(')') ? funktion(betrag ? "abs" : name, k) : Komplex(std::nan(""));
+        }
+        bool zahl = false;
+        const double wert = name.toDouble(&zahl);
+        return zahl ? wert : std::nan("");
+    }
+    static Komplex funktion(const QString& name, const Komplex& k) {
+        static const std::map<QString, Komplex (*)(const Komplex&)> funktionen{
+            {"", [](const Komplex& z) { return z; }},
+            {"Re", [](const Komplex& z) { return Komplex(z.real()); }},
+            {"Im", [](const Komplex& z) { return Komplex(z.imag()); }},
+            {"abs", [](const Komplex& z) { return Komplex(std::abs(z)); }},
+            {"ln", [](const Komplex& z) { return std::log(z); }},
+            {"sin", [](const Komplex& z) { return std::sin(z); }},
+            {"sqrt", [](const Komplex& z) { return std::sqrt(z); }}};
+        return funktionen.at(name)(k);
+    }
+
+    std::map<QString, Komplex> m_werte;
+    QString m_rest;
+};
+
+/// The numbers of those rows.
 static QList<int> zeilennummern(const Hilfetabelle& sprache, Hilfethema thema) {
     QList<int> nummern;
-    static const QRegularExpression zeile(R"((?:<tr><td>|<td>(?:&nbsp;)+)(\d+):)");
-    auto treffer = zeile.globalMatch(sprache.at(static_cast<std::size_t>(thema)).text);
-    while (treffer.hasNext()) {
-        nummern << treffer.next().captured(1).toInt();
+    for (const auto& zeile : zeilen(sprache, thema)) {
+        nummern << zeile.first;
     }
-    std::sort(nummern.begin(), nummern.end());
     return nummern;
 }
 
@@ -80,9 +171,14 @@ class TestHilfe : public QObject {
     void autor();
     void qtVersion();
     void zitierteBeschriftungen();
-    void gleicheFormeln();
     void tatsachen_data();
     void tatsachen();
+    void abbruchformeln_data() { tatsachen_data(); }
+    void abbruchformeln();
+    void zwillingsformeln_data() { tatsachen_data(); }
+    void zwillingsformeln();
+    void farbformeln_data() { tatsachen_data(); }
+    void farbformeln();
 };
 
 void TestHilfe::kaesten_data() {
@@ -219,24 +315,6 @@ void TestHilfe::zitierteBeschriftungen() {
     QVERIFY2(zitate > 60, qPrintable(QString::number(zitate)));
 }
 
-/// The formulas of twins and colour variants are the same in both languages.
-void TestHilfe::gleicheFormeln() {
-    static const QRegularExpression formel("<td>([^<]*(?:C|Fac|rq)[^<]*)</td>");
-    const auto formeln = [](const Hilfetabelle& sprache, Hilfethema thema) {
-        QStringList liste;
-        const QString text = sprache.at(static_cast<std::size_t>(thema)).text;
-        for (auto t = formel.globalMatch(text); t.hasNext();) {
-            liste << t.next().captured(1);
-        }
-        return liste;
-    };
-    for (const auto& [thema, anzahl] :
-         {std::pair{Hilfethema::Zwilling, 22}, {Hilfethema::Div, 13}, {Hilfethema::Konv, 11}}) {
-        QCOMPARE(formeln(g_HilfeDeutsch, thema), formeln(g_HilfeEnglisch, thema));
-        QCOMPARE(formeln(g_HilfeDeutsch, thema).size(), anzahl);
-    }
-}
-
 void TestHilfe::tatsachen_data() {
     QTest::addColumn<bool>("deutsch");
     QTest::newRow("German") << true;
@@ -260,18 +338,6 @@ void TestHilfe::tatsachen() {
     QVERIFY(sichtbar(sprache.at(2).text).contains(QString("%1 ").arg(gleichungen().size())));
 
     QCOMPARE(zeilennummern(sprache, Hilfethema::Berechnung), von(0, menge.g_Max_glg_Abbruch));
-    const QString abbruch = dicht(sprache, Hilfethema::Berechnung);
-    static const QRegularExpression formel(R"(^[0-36-9]: rq= )");
-    int formeln = 0;
-    for (const Menuezeile& zeile : menuetafeln::AbbruchXYZeilen) {
-        QString text = QString::fromUtf8(zeile.text);
-        if (text.contains(formel)) {
-            ++formeln;
-            QVERIFY2(abbruch.contains(text.remove(' ')), qPrintable(text));
-        }
-    }
-    QCOMPARE(formeln, 8);
-
     int zwillinge = 0;
     for (const Menuezeile& zeile : menuetafeln::ZwillingZeilen) {
         zwillinge += QByteArray(zeile.text).endsWith(" EIN") ? 1 : 0;
@@ -284,6 +350,9 @@ void TestHilfe::tatsachen() {
     QCOMPARE(zeilennummern(sprache, Hilfethema::Div), von(0, menge.rechen_VarianteDiv));
     QCOMPARE(zeilennummern(sprache, Hilfethema::Konv), von(0, menge.rechen_VarianteKonv));
 
+    QVERIFY(sichtbar(sprache.at(4).text)
+                .contains(deutsch ? "Die Fixpunkte um Null haben die Zykluszahl 1."
+                                  : "increase/double the ZahlAbbruch (default=400)"));
     const QString farben = sichtbar(sprache.at(7).text);
     QVERIFY(farben.contains("cTab 0-11, 12-23,  24-32, 36-47")); // slip and double blank are meant
     QVERIFY(farben.contains("if (zahl_Tab == 11) G11 = 80;"));
@@ -330,6 +399,95 @@ void TestHilfe::tatsachen() {
     const Farbtripel umgekehrt = farbvariante({10, 20, 40}, 13, 1); // the rule of three statements
     QCOMPARE(QList<int>({umgekehrt[0], umgekehrt[1], umgekehrt[2]}), QList<int>({235, 245, 215}));
     QVERIFY(farben.contains("if (zahl_Tab == 1) { R11 = ~R11; G11 = ~G11; B11 = ~B11; }"));
+}
+
+// The formulas as the texts write them, worked out and compared with the code's.
+
+void TestHilfe::abbruchformeln() {
+    QFETCH(bool, deutsch);
+    const Hilfetabelle& sprache = deutsch ? g_HilfeDeutsch : g_HilfeEnglisch;
+    constexpr double x = -1.5;
+    constexpr double y = 0.75;
+    Rechner betrag({{"x", x}, {"y", y}});
+    for (const auto& [nummer, zellen] : zeilen(sprache, Hilfethema::Berechnung)) {
+        const auto art = static_cast<Abbruchart>(nummer);
+        if (!istZyklussuche(art)) {
+            QVERIFY2(zellen[0].startsWith("rq="), qPrintable(zellen[0]));
+            QCOMPARE(betrag(zellen[0].mid(3)), Komplex(betragOhneZyklus(art, x, y)));
+        }
+    }
+}
+
+void TestHilfe::zwillingsformeln() {
+    QFETCH(bool, deutsch);
+    const Hilfetabelle& sprache = deutsch ? g_HilfeDeutsch : g_HilfeEnglisch;
+    const Komplex c(0.5, -3.0);
+    const Komplex w(2.0, 1.25);
+    const Komplex z(-1.5, 0.75);
+    const Komplex p(0.25, 5.0);
+    Rechner zwilling({{"C", c},
+                      {"Cx", c.real()},
+                      {"Cy", c.imag()},
+                      {"W", w},
+                      {"p", w.real()},
+                      {"t", w.imag()},
+                      {"Z", z},
+                      {"x", z.real()},
+                      {"y", z.imag()},
+                      {"P", p},
+                      {"koppX", p.real()},
+                      {"koppY", p.imag()}});
+    for (const auto& [nummer, zellen] : zeilen(sprache, Hilfethema::Zwilling)) {
+        const KomplexeKopplung kopplung{nummer, p.real(), p.imag()};
+        QCOMPARE(zwilling(zellen[0]), kopplung.haupt(w, c));
+        QCOMPARE(zwilling(zellen[1]), kopplung.zwilling(z, c));
+    }
+    static const QRegularExpression auge("A = (.*)<br>");
+    const QString text = sprache.at(static_cast<std::size_t>(Hilfethema::Zwilling)).text;
+    const auto a = AugenKopplung{{5, p.real(), p.imag()}}.haupt<double>({w.real(), w.imag()},
+                                                                        {c.real(), c.imag()});
+    QCOMPARE(zwilling(auge.match(text).captured(1).remove(' ')), Komplex(a.x, a.y));
+}
+
+void TestHilfe::farbformeln() {
+    QFETCH(bool, deutsch);
+    const Hilfetabelle& sprache = deutsch ? g_HilfeDeutsch : g_HilfeEnglisch;
+
+    // A palette whose colours tell the colour number.
+    Mandelbrot& menge = *m_fenster.Menge;
+    for (std::size_t i = 0; i < Mandelbrot::ColormapSize; ++i) {
+        menge.colormapWave[3 * i] = static_cast<quint8>(i);
+        menge.colormapWave[3 * i + 1] = static_cast<quint8>(i / 256);
+    }
+    menge.zahl_farbtab = menge.color_Offset = menge.g_halbesBild = 0;
+    menge.it_Factor = 1.0;
+    menge.zahl_Matrix = 13; // G R B
+    menge.div_Factor = 50.0;
+    menge.konv_Factor = 700.0;
+    menge.wert_Abbruch = 4.0;
+    menge.ImageDoubles[1][0] = 20.0;
+    Bildlauf lauf;
+    lauf.SpaltenKLGross = lauf.ZeilenKLGross = 1;
+    QImage bild(1, 1, QImage::Format_ARGB32_Premultiplied);
+    Rechner farbe(
+        {{"n", 7.0}, {"rq", 20.0}, {"FacDiv", 50.0}, {"FacKonv", 700.0}, {"ZahlAbbr", 4.0}});
+    for (const auto& [thema, variante, grenze] :
+         {std::tuple{Hilfethema::Div, &Mandelbrot::rechen_VarianteDiv, 8},
+          {Hilfethema::Konv, &Mandelbrot::rechen_VarianteKonv, 7}}) {
+        menge.ImageIntegers[1][0] = 7;
+        menge.Max_Iterationen = grenze;
+        for (const auto& [nummer, zellen] : zeilen(sprache, thema)) {
+            menge.*variante = nummer;
+            einfaerben(menge, lauf, bild);
+            const QColor da = bild.pixelColor(0, 0);
+            if (nummer < 2) { // in words: all black, all white
+                QCOMPARE(da, QColor(nummer == 0 ? Qt::black : Qt::white));
+                continue;
+            }
+            const int soll = static_cast<int>(farbe(zellen[0]).real()) % 512;
+            QVERIFY2(da.green() == soll % 256 && da.red() == soll / 256, qPrintable(zellen[0]));
+        }
+    }
 }
 
 QTEST_MAIN(TestHilfe)
