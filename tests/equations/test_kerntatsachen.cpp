@@ -34,8 +34,8 @@ class TestKerntatsachen : public QObject {
     void hyperwurzeln();
     void spiegelbild_data();
     void spiegelbild();
-    void reellerNenner();
-    void verweigerterNewtonschritt();
+    void schrittgrenzen_data();
+    void schrittgrenzen();
     void ganzePotenz_data();
     void ganzePotenz();
     void unsinn_data();
@@ -222,20 +222,57 @@ void TestKerntatsachen::spiegelbild() {
     }
 }
 
-// 1 + C Z = i: the division would be defined, but only the real part is looked at.
-void TestKerntatsachen::reellerNenner() {
-    QCOMPARE(kern(605, {1.0, 1.0}, {0.0, 1.0}), 0.0);
-    QCOMPARE(m->privateIterat, 2);
-    QCOMPARE(m->OZaehler, 0);
+void TestKerntatsachen::schrittgrenzen_data() {
+    QTest::addColumn<qint32>("gleichung");
+    QTest::addColumn<qint32>("zwilling");
+    QTest::addColumn<double>("genau");
+    QTest::addColumn<Komplex>("start");
+    QTest::addColumn<Komplex>("c");
+    QTest::addColumn<qint32>("punkte"); // of two steps
+    QTest::addColumn<qint32>("zaehler");
+    QTest::addColumn<bool>("abgebrochen");
+    const auto zeile = [](const char* name, qint32 gleichung, qint32 zwilling, double genau,
+                          Komplex start, Komplex c, qint32 punkte, qint32 zaehler, bool abbruch) {
+        QTest::newRow(name) << gleichung << zwilling << genau << start << c << punkte << zaehler
+                            << abbruch;
+    };
+    const Komplex eins(1, 0), schraeg(1, 1);
+    const auto hoch2 = [](int n) { return std::ldexp(1.0, n); };
+    zeile("605, D = i", 605, 0, 0.01, schraeg, {0, 1}, 0, 2, true);
+    zeile("605, smallest real part", 605, 0, 0.01, schraeg, {0, 1 - hoch2(-53)}, 2, 3, false);
+    zeile("605, real part of the twin's", 605, 1, 0.01, schraeg, {99.5, 0.5}, 0, 2, true);
+    zeile("109, D imaginary: not counted", 109, 0, 0.01, {}, {0.5, 0.5}, 0, 1, true);
+    zeile("5, |D|^2 below", 5, 0, 0.01, eins, {hoch2(-14) - 1, 0}, 0, 2, true);
+    zeile("5, |D|^2 above", 5, 0, 0.01, eins, {hoch2(-13) - 1, 0}, 2, 3, false);
+    zeile("5, |D|^2 below, twin above", 5, 1, 0.01, eins, {hoch2(-14) - 101, 0}, 0, 2, true);
+    zeile("5, twin's below", 5, 1, 0.01, eins, {hoch2(-17) + 99, 0}, 0, 2, true);
+    zeile("5, twin's above", 5, 1, 0.01, eins, {hoch2(-16) + 99, 0}, 2, 3, false);
+    zeile("7, power above 1e290", 7, 0, 0.01, {136, 0}, {}, 0, 2, true);
+    zeile("7, power below 1e290", 7, 0, 0.01, {135.9, 0}, {}, 1, 2, false);
+    zeile("7, no logarithm", 7, 0, 0.0, {}, {}, 0, 2, true);
+    zeile("7, main power fails, twin's not", 7, 1, 0.01, eins, {99, 0}, 2, 3, false);
+    zeile("8, twin's power fails, main not", 8, 1, 0.01, eins, {300, 0}, 1, 3, true);
 }
 
-// The derivative at 0.5 + 0.5i is imaginary: the step is refused and not counted.
-void TestKerntatsachen::verweigerterNewtonschritt() {
-    m->Koppl_x = 1.0;
+// Where a step is refused: just inside and just outside of each guard. The coupling is strong, so
+// that main and twin part.
+void TestKerntatsachen::schrittgrenzen() {
+    QFETCH(qint32, gleichung);
+    QFETCH(qint32, zwilling);
+    QFETCH(double, genau);
+    QFETCH(Komplex, start);
+    QFETCH(Komplex, c);
+    QFETCH(bool, abgebrochen);
+    m->g_ZwillingJa = zwilling;
+    m->g_Genauigkeit = genau;
+    m->Koppl_x = 100.0;
     m->Koppl_y = 0.0;
-    QCOMPARE(kern(109, {}, {0.5, 0.5}), 0.0);
-    QCOMPARE(m->privateIterat, 1);
-    QCOMPARE(m->OZaehler, 0);
+    m->glg_Abbruch = 1;
+    m->wert_Abbruch = 1e300;
+    m->Max_Iterationen = 3;
+    QCOMPARE(kern(gleichung, start, c) == 0.0, abgebrochen);
+    QTEST(m->OZaehler, "punkte");
+    QTEST(m->privateIterat, "zaehler");
 }
 
 void TestKerntatsachen::ganzePotenz_data() {
