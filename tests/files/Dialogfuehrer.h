@@ -89,3 +89,34 @@ class Dialogfuehrer {
     QPointer<QWidget> m_offen; // the next dialog may get the same address
     int m_takte = 0;
 };
+
+/// Names under which nothing can be saved.
+inline void speicherfehlerZeilen() {
+    QTest::addColumn<QString>("name"); // relative to the temporary folder
+    QTest::addColumn<bool>("wirdOrdner");
+    QTest::newRow("folder missing") << "fehlt/bild" << false;
+    QTest::newRow("a folder") << "bild" << true;
+    QTest::newRow("full device") << "/dev/full" << false;
+}
+
+/// Runs a command that saves under the row's name and looks for its message.
+inline void pruefeSpeicherfehler(const QString& ordner, const std::function<void()>& speichern) {
+    QFETCH(QString, name);
+    QFETCH(const bool, wirdOrdner);
+    name = QDir(ordner).absoluteFilePath(name);
+    if (name.startsWith("/dev/") && !QFileInfo::exists(name)) {
+        QSKIP("no such device here");
+    }
+    Dialogfuehrer fuehrer(name, [&] {
+        if (wirdOrdner) {
+            QVERIFY(QDir().mkdir(name));
+        }
+    });
+    speichern();
+    QCOMPARE(fuehrer.meldungen, QStringList({"Es ist ein Fehler aufgetreten!",
+                                             "Es ist ein Fehler beim speichern der Datei:\n\n" +
+                                                 name + "\n\naufgetreten!",
+                                             "OK", "no parent"}));
+    QVERIFY(!QFileInfo(name).isFile()); // the device is still one
+    QCOMPARE(QFileInfo::exists(name), wirdOrdner || name == "/dev/full");
+}

@@ -265,33 +265,10 @@ void TestBilddaten::speichernDialog() {
     QCOMPARE(bytesVon(name), bilddatenSchreiben(*fenster));
 }
 
-void TestBilddaten::speichernFehler_data() {
-    QTest::addColumn<QString>("name"); // relative to the temporary folder
-    QTest::addColumn<bool>("wirdOrdner");
-    QTest::newRow("folder missing") << "fehlt/bild.fraktal" << false;
-    QTest::newRow("a folder") << "bild.fraktal" << true;
-    QTest::newRow("full device") << "/dev/full" << false;
-}
+void TestBilddaten::speichernFehler_data() { speicherfehlerZeilen(); }
 
 void TestBilddaten::speichernFehler() {
-    QFETCH(QString, name);
-    QFETCH(const bool, wirdOrdner);
-    name = QDir(ordner->path()).absoluteFilePath(name);
-    if (name.startsWith("/dev/") && !QFileInfo::exists(name)) {
-        QSKIP("no such device here");
-    }
-    Dialogfuehrer fuehrer(name, [&] {
-        if (wirdOrdner) {
-            QVERIFY(QDir().mkdir(name));
-        }
-    });
-    fenster->Koordinaten_SpeichernSlot();
-    QCOMPARE(fuehrer.meldungen, QStringList({"Es ist ein Fehler aufgetreten!",
-                                             "Es ist ein Fehler beim speichern der Datei:\n\n" +
-                                                 name + "\n\naufgetreten!",
-                                             "OK", "no parent"}));
-    QVERIFY(!QFileInfo(name).isFile()); // the device is still one
-    QCOMPARE(QFileInfo::exists(name), wirdOrdner || name == "/dev/full");
+    pruefeSpeicherfehler(ordner->path(), [this] { fenster->Koordinaten_SpeichernSlot(); });
 }
 
 void TestBilddaten::ladenDialog() {

@@ -120,32 +120,10 @@ void TestExport::bildAbbrechen() {
     QCOMPARE(dateien(), QStringList());
 }
 
-void TestExport::bildFehler_data() {
-    QTest::addColumn<QString>("name"); // relative to the temporary folder
-    QTest::addColumn<bool>("wirdOrdner");
-    QTest::newRow("folder missing") << "fehlt/bild.png" << false;
-    QTest::newRow("a folder") << "bild.png" << true;
-    QTest::newRow("full device") << "/dev/full" << false;
-}
+void TestExport::bildFehler_data() { speicherfehlerZeilen(); }
 
 void TestExport::bildFehler() {
-    QFETCH(QString, name);
-    QFETCH(const bool, wirdOrdner);
-    name = QDir(ordner->path()).absoluteFilePath(name);
-    if (name.startsWith("/dev/") && !QFileInfo::exists(name)) {
-        QSKIP("no such device here");
-    }
-    Dialogfuehrer fuehrer(name, [&] {
-        if (wirdOrdner) {
-            QVERIFY(QDir().mkdir(name));
-        }
-    });
-    fenster->Bild_SpeichernSlot();
-    QCOMPARE(fuehrer.meldungen, QStringList({"Es ist ein Fehler aufgetreten!",
-                                             "Es ist ein Fehler beim speichern der Datei:\n\n" +
-                                                 name + "\n\naufgetreten!",
-                                             "OK", "no parent"}));
-    QVERIFY(!QFileInfo(name).isFile());
+    pruefeSpeicherfehler(ordner->path(), [this] { fenster->Bild_SpeichernSlot(); });
 }
 
 void TestExport::listeAnhaengen() {
