@@ -6,35 +6,6 @@
 
 namespace {
 
-/// Cycle search: compares the value with the kept earlier ones, the most recent first, and then
-/// puts it in front of them. Gives -g_Genauigkeit as long as nothing matches. The history is not
-/// cleared between pixels.
-double zyklusBetrag(const Mandelbrot& m, Abbruchart art, double x, double y) {
-    const double genau = m.g_Genauigkeit;
-    const qint32 letzter = m.g_zycmax;
-    double rq = -genau;
-    for (qint32 zyklus = 0; zyklus <= letzter; ++zyklus) {
-        const auto i = static_cast<std::size_t>(zyklus);
-        const double dd = std::fabs(m.xm[i] - x) + std::fabs(m.ym[i] - y);
-        if (genau > dd) {
-            if (art == Abbruchart::Delta) {
-                rq = 100.0 + 2.0 * (m.g_Max_rgbFarben * (dd / genau));
-            } else {
-                const qint64 skalierung = qint64{m.g_Max_rgbFarben} / letzter;
-                rq = static_cast<double>((zyklus + 1) * skalierung + 100);
-            }
-            break;
-        }
-    }
-    if (letzter > 0) {
-        std::copy_backward(m.xm.begin(), m.xm.begin() + letzter, m.xm.begin() + letzter + 1);
-        std::copy_backward(m.ym.begin(), m.ym.begin() + letzter, m.ym.begin() + letzter + 1);
-    }
-    m.xm[0] = x;
-    m.ym[0] = y;
-    return rq;
-}
-
 void orbitpunktAufzeichnen(const Mandelbrot& m, double x, double y) {
     const qint32 grenze = std::min(m.g_maxOrbitIterat, Mandelbrot::OrbitMax);
     if (m.IteratSubf <= m.g_OrbitAbIterAn || m.OZaehler >= grenze) {
@@ -63,6 +34,33 @@ Abbruchart abbruchVorbereiten(const Mandelbrot& m) {
         m.g_zycmax = std::min(m.g_zycmax, Mandelbrot::ZyklusMax);
     }
     return art;
+}
+
+// The most recent match wins. The history is not cleared between pixels.
+double zyklusBetrag(const Mandelbrot& m, Abbruchart art, double x, double y) {
+    const double genau = m.g_Genauigkeit;
+    const qint32 letzter = m.g_zycmax;
+    double rq = -genau;
+    for (qint32 zyklus = 0; zyklus <= letzter; ++zyklus) {
+        const auto i = static_cast<std::size_t>(zyklus);
+        const double dd = std::fabs(m.xm[i] - x) + std::fabs(m.ym[i] - y);
+        if (genau > dd) {
+            if (art == Abbruchart::Delta) {
+                rq = 100.0 + 2.0 * (m.g_Max_rgbFarben * (dd / genau));
+            } else {
+                const qint64 skalierung = qint64{m.g_Max_rgbFarben} / letzter;
+                rq = static_cast<double>((zyklus + 1) * skalierung + 100);
+            }
+            break;
+        }
+    }
+    if (letzter > 0) {
+        std::copy_backward(m.xm.begin(), m.xm.begin() + letzter, m.xm.begin() + letzter + 1);
+        std::copy_backward(m.ym.begin(), m.ym.begin() + letzter, m.ym.begin() + letzter + 1);
+    }
+    m.xm[0] = x;
+    m.ym[0] = y;
+    return rq;
 }
 
 double Mandelbrot::BetrQ_Varianten(double x, double y, double p, double t) const {

@@ -1,7 +1,9 @@
 #pragma once
 
 #include "equations/Abbruch.h"
-#include "equations/Zwilling.h"
+#include "equations/Zahlen.h"
+
+#include <array>
 
 // The complex equations that need nothing but products, sums and quotients. K is
 // std::complex<double> or a complex type of lanes. The order of the operations fixes the last bits
@@ -30,7 +32,11 @@ template <class K>
             potenz = potenz * z;
         }
     }
-    return n < 0 ? eins<K>() / potenz : potenz;
+    if constexpr (requires { potenz / potenz; }) {
+        return n < 0 ? eins<K>() / potenz : potenz;
+    } else {
+        return potenz; // lanes have no quotient and get no negative exponent
+    }
 }
 
 /// What the power, eye and pole equations put in place of Z. ZS is the conjugate, Zm = Z*ZS.

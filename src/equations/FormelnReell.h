@@ -1,6 +1,5 @@
 #pragma once
 
-#include "equations/Rahmen.h"
 #include "equations/Zwilling.h"
 
 // The equations 1 to 6 in real arithmetic. T is double or a vector of lanes. The order of the

@@ -1,5 +1,5 @@
 #include "equations/FormelnKomplex.h"
-#include "equations/Schritt.h"
+#include "equations/Kernlauf.h"
 #include "Mandelbrot.h"
 
 namespace {

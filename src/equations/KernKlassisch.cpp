@@ -1,5 +1,5 @@
 #include "equations/FormelnReell.h"
-#include "equations/Schritt.h"
+#include "equations/Kernlauf.h"
 #include "Mandelbrot.h"
 
 double Mandelbrot::IterateZmalZplusC(double xqr, double yqr, double Cxqr, double Cyqr) const {

@@ -1,4 +1,4 @@
-#include "equations/Schritt.h"
+#include "equations/Kernlauf.h"
 #include "Mandelbrot.h"
 
 namespace {

@@ -1,5 +1,5 @@
 #include "equations/FormelnKomplex.h"
-#include "equations/Schritt.h"
+#include "equations/Kernlauf.h"
 #include "Mandelbrot.h"
 
 // The complex equations that are made of a term: powers, eyes and poles.

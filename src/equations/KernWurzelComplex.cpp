@@ -1,5 +1,5 @@
 #include "equations/FormelnNewton.h"
-#include "equations/Schritt.h"
+#include "equations/Kernlauf.h"
 
 #include "Mandelbrot.h"
 #include <algorithm>

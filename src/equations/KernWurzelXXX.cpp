@@ -1,5 +1,5 @@
 #include "equations/FormelnReell.h"
-#include "equations/Schritt.h"
+#include "equations/Kernlauf.h"
 #include "Mandelbrot.h"
 
 // Equation 9 seeks the roots of 1 and equation 10 those of the constant; both start at the pixel,

@@ -1,27 +1,33 @@
 #pragma once
 
+#include "equations/Abbruch.h"
+#include "equations/Rechenweise.h"
+#include "equations/Wiederkehr.h"
+#include "equations/Zahlen.h"
 #include "Mandelbrot.h"
 
-/// State of an orbit: main value Z and twin value W. A value type is a pair of numbers (Paar, or a
-/// complex number) with the functions re and im.
-template <class Wert>
-struct Stand {
-    Wert z;
-    Wert w;
-};
+// The frame that all kernels share: counters, bailout call, loop test and result rule. It repeats
+// the step
+//     bool schritt(Stand<Wert>& s)     (true: the step aborts the orbit)
+// which depends on the state alone, so that the loop is a deterministic map.
+//
+// The first step counts as 1 and at most Max_Iterationen - 1 steps are made (one if the limit is
+// below 2); with `zaehltAbbruch` false in the step's type, an aborted step is not counted. A
+// measure that is not below wert_Abbruch, NaN included, ends the loop.
 
-/// The frame that all kernels share: counters, bailout call, loop test and result rule. It repeats
-/// the step
-///     bool schritt(Stand<Wert>& s)     (true: the step aborts the orbit)
-/// which must depend on the state alone, so that the loop is a deterministic map.
-///
-/// The first step counts as 1 and at most Max_Iterationen - 1 steps are made (one if the limit is
-/// below 2); with `zaehltAbbruch` false in the step's type, an aborted step is not counted. A
-/// measure that is not below wert_Abbruch, NaN included, ends the loop.
-/// Returns the last measure; 0.0 when the orbit was aborted or a cycle search found nothing. The
-/// count is left in privateIterat.
+namespace rahmen {
+
+/// Leaves the count in the model and gives the result: the last measure, or 0.0 when the orbit was
+/// aborted or a cycle search found nothing.
+inline double ergebnis(const Mandelbrot& m, qint32 iterationen, double betrQ, bool abbr) {
+    m.IteratSubf = iterationen;
+    m.privateIterat = iterationen;
+    return abbr || betrQ == -m.g_Genauigkeit ? 0.0 : betrQ;
+}
+
+/// Every step with its full bailout test, which also records the orbit.
 template <class Schritt, class Wert>
-double iterieren(const Mandelbrot& m, const Schritt& schritt, Stand<Wert> s) {
+double schrittweise(const Mandelbrot& m, const Schritt& schritt, Stand<Wert> s) {
     double betrQ = 0.0;
     bool abbr = false;
     m.IteratSubf = 1;
@@ -34,6 +40,55 @@ double iterieren(const Mandelbrot& m, const Schritt& schritt, Stand<Wert> s) {
             m.IteratSubf += 1;
         }
     } while (m.IteratSubf < m.Max_Iterationen && m.wert_Abbruch > betrQ && !abbr);
-    m.privateIterat = m.IteratSubf;
-    return abbr || betrQ == -m.g_Genauigkeit ? 0.0 : betrQ;
+    return ergebnis(m, m.IteratSubf, betrQ, abbr);
+}
+
+/// The same values and counts, without the steps whose outcome is known. When a state repeats, to
+/// the bit, all that follows is periodic and has been tested: the steps that remain are reduced
+/// modulo the period. A cycle search looks back further than the state; it is periodic, and wholly
+/// tested, g_zycmax + 1 steps after the repeat.
+template <class Schritt, class Wert>
+double abgekuerzt(const Mandelbrot& m, const Schritt& schritt, Stand<Wert> s) {
+    const double wertAbbruch = m.wert_Abbruch;
+    const qint32 grenze = m.Max_Iterationen;
+    qint32 iterationen = 1;
+    if (schritt(s)) {
+        return ergebnis(m, iterationen + (Schritt::zaehltAbbruch ? 1 : 0), 0.0, true);
+    }
+    Wiederkehr<Wert> wiederkehr(s);
+    const Abbruchart art = abbruchVorbereiten(m);
+    const bool zyklussuche = istZyklussuche(art);
+    qint64 periode = 0;
+    qint32 nachlauf = -1; // steps until the remaining ones may be reduced
+    for (;;) {
+        const double betrQ = zyklussuche ? zyklusBetrag(m, art, re(s.z), im(s.z))
+                                         : betragOhneZyklus(art, re(s.z), im(s.z));
+        ++iterationen;
+        if (iterationen >= grenze || !(wertAbbruch > betrQ)) {
+            return ergebnis(m, iterationen, betrQ, false);
+        }
+        if (periode == 0 && iterationen > 2) {
+            periode = wiederkehr.periode(s);
+            nachlauf = periode == 0 ? -1 : (zyklussuche ? m.g_zycmax + 1 : 0);
+        }
+        if (nachlauf >= 0 && nachlauf-- == 0) {
+            iterationen = grenze - static_cast<qint32>((grenze - iterationen) % periode);
+            if (iterationen == grenze) {
+                return ergebnis(m, grenze, betrQ, false);
+            }
+        }
+        if (schritt(s)) {
+            return ergebnis(m, iterationen + (Schritt::zaehltAbbruch ? 1 : 0), 0.0, true);
+        }
+    }
+}
+
+} // namespace rahmen
+
+/// Runs the frame from the state s. Returns the kernel's result and leaves the count in
+/// privateIterat.
+template <class Schritt, class Wert>
+double iterieren(const Mandelbrot& m, const Schritt& schritt, const Stand<Wert>& s) {
+    return m.Orbitmodus != 2 && rechenweise().abkuerzung ? rahmen::abgekuerzt(m, schritt, s)
+                                                         : rahmen::schrittweise(m, schritt, s);
 }

@@ -1,36 +1,9 @@
 #pragma once
 
-#include <QtGlobal>
-
-#include <array>
-#include <complex>
+#include "equations/Zahlen.h"
 
 // The coupling of the twin orbit: the constant that is added to the main value Z comes from the
 // twin value W, the twin's constant from Z. The number type is double or a vector of lanes.
-
-/// A value of the real-arithmetic equations: x + iy without a multiplication.
-template <class T>
-struct Paar {
-    T x;
-    T y;
-};
-
-template <class T>
-[[nodiscard]] constexpr T re(const Paar<T>& z) {
-    return z.x;
-}
-template <class T>
-[[nodiscard]] constexpr T im(const Paar<T>& z) {
-    return z.y;
-}
-template <class T>
-[[nodiscard]] constexpr T re(const std::complex<T>& z) {
-    return z.real();
-}
-template <class T>
-[[nodiscard]] constexpr T im(const std::complex<T>& z) {
-    return z.imag();
-}
 
 /// Variant number of a kernel whose table ends at `letzte`: 0 = off (also for negative numbers), 1
 /// to letzte, and letzte + 1 for all numbers above (the twin runs, both constants stay plain).

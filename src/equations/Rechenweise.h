@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QtGlobal>
+
+/// The vector instructions that the row kernel may use.
+enum class Befehlssatz : qint32 {
+    Punktweise, ///< no lanes: every pixel by the point kernel
+    Grundsatz,  ///< what every processor of the architecture has
+    Avx2,
+    Avx512,
+};
+
+/// How pictures are computed; never what they show. Only tests and benchmarks change it.
+struct Rechenweise {
+    bool abkuerzung;         ///< leave a loop whose remaining course is known
+    Befehlssatz befehlssatz; ///< what this processor lacks is replaced by the best that it has
+};
+
+/// The setting in force; at the start everything that the processor offers.
+[[nodiscard]] Rechenweise& rechenweise();
+
+/// The widest instruction set, up to the wanted one, that this build and this processor have.
+[[nodiscard]] Befehlssatz verfuegbar(Befehlssatz gewuenscht);
