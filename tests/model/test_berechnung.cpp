@@ -70,6 +70,9 @@ class TestBerechnung : public QObject {
     void exponent_data();
     void exponent();
     void vorschauMasse();
+    void festeGroesseOhneVorschau();
+    void signaturSumme();
+    void nurMarken();
     void absurd_data();
     void absurd();
     void unsichtbar();
@@ -218,6 +221,12 @@ void TestBerechnung::reparaturenRechnenNichtNochmal() {
     m->g_RechnenJa = 1;
     malen(*m);
     QCOMPARE(m->ImageIntegers[10][10], Unberuehrt);
+    m->wahl_Gleichung = 20003; // equation 2 with twin variant 3
+    m->glg_Abbruch = 0;
+    m->g_zycmax = 99;
+    malen(*m);
+    QCOMPARE(m->g_JuliaJa, 1);
+    QCOMPARE((QList<int>{m->wahl_Gleichung, m->g_ZwillingJa, m->g_zycmax}), (QList<int>{2, 3, 24}));
 }
 
 void TestBerechnung::bildhaelften() {
@@ -240,14 +249,18 @@ void TestBerechnung::bildhaelften() {
 
 void TestBerechnung::loeschen_data() {
     QTest::addColumn<int>("art");
+    QTest::addColumn<int>("orbit");
     QTest::addColumn<int>("anzahl");
-    QTest::newRow("kind 1") << 1 << 0;
-    QTest::newRow("kind 2") << 2 << 50;
+    QTest::newRow("kind 1") << 1 << 0 << 0;
+    QTest::newRow("kind 2") << 2 << 0 << 50;
+    QTest::newRow("with the orbit on") << 2 << 1 << 50;
 }
 
 void TestBerechnung::loeschen() {
     QFETCH(int, art);
+    QFETCH(int, orbit);
     const auto m = bildprobe(60, 40);
+    m->g_OrbitJa = orbit;
     malen(*m);
     m->g_BildLoeschen = art;
     malen(*m);
@@ -338,6 +351,67 @@ void TestBerechnung::vorschauMasse() {
     malen(*m);
     QCOMPARE(m->g_PixVorschauY, 64);
     QCOMPARE(m->g_Bildverhaeltnis, 64.0 / 130.0);
+}
+
+void TestBerechnung::festeGroesseOhneVorschau() {
+    const auto m = bildprobe(300, 200);
+    m->g_PixConstX = 210;
+    m->g_PixConstY = 140;
+    m->g_VorschauAusJa = 1;
+    m->g_RechnenJa = 3;
+    allesUnberuehrt(*m);
+    malen(*m);
+    m->ImageIntegers[0].fill(Unberuehrt);
+    QCOMPARE(beruehrt(*m), (QList<int>{0, 210, 0, 140}));
+    QCOMPARE(m->g_halbesBild, 0);
+    QCOMPARE(m->Bildflaeche.size(), QSize(230, 140));
+}
+
+void TestBerechnung::signaturSumme() {
+    const auto m = std::make_unique<Mandelbrot>();
+    qint64 soll = 0;
+    const auto summand = [&](qint32 Mandelbrot::*feld, qint32 wert, qint32 gewicht) {
+        (*m).*feld = wert;
+        soll += qint64{wert} * gewicht;
+    };
+    summand(&Mandelbrot::Max_Iterationen, 2000000000, 1);
+    summand(&Mandelbrot::g_JuliaJa, 1, 2);
+    summand(&Mandelbrot::g_halbesBild, 2, 3);
+    summand(&Mandelbrot::g_linienLoeschenJa, 3, 23);
+    summand(&Mandelbrot::g_ZwillingJa, 4, 17);
+    summand(&Mandelbrot::g_UnDo, 5, 31);
+    summand(&Mandelbrot::OPx, 600, 1);
+    summand(&Mandelbrot::OPy, 7000, 1);
+    summand(&Mandelbrot::g_OrbitJa, 80000, 1);
+    summand(&Mandelbrot::g_OrbitDuennJa, 21, 2);
+    summand(&Mandelbrot::g_maxOrbitIterat, 256, 3);
+    summand(&Mandelbrot::g_GenauJa, 100, 5);
+    summand(&Mandelbrot::g_zycmax, 24, 9);
+    summand(&Mandelbrot::glg_Abbruch, 500000, 13);
+    summand(&Mandelbrot::wahl_Gleichung, 30000000, 11);
+    summand(&Mandelbrot::g_oberesHalbbild, 1000, 7);
+    summand(&Mandelbrot::g_kPotenz, 10000, 29);
+    m->Br_x = 1e16; // swallows a single half
+    m->wert_Abbruch = m->g_Bildverhaeltnis = m->MP_x = m->MP_y = 0.5;
+    m->g_Genauigkeit = m->CJ_x = m->CJ_y = m->Koppl_x = m->Koppl_y = 0.5;
+    signaturBilden(*m, 60, 40);
+    QCOMPARE(qint64{m->bilddatenInteger}, soll - (qint64{1} << 32)); // wrapped
+    QCOMPARE(m->bilddatenDouble, 1e16 + 4.0); // 2 and 2.5 added, each rounded to even numbers
+    QCOMPARE(m->bilddatenSumme, m->bilddatenInteger + m->bilddatenDouble);
+}
+
+// With request 0 overlay lines appear and vanish over untouched values and counts.
+void TestBerechnung::nurMarken() {
+    const auto m = bildprobe(60, 40);
+    malen(*m);
+    allesUnberuehrt(*m);
+    const QImage ohne = malen(*m);
+    m->g_MittelkreuzJa = 1;
+    QVERIFY(malen(*m) != ohne);
+    QCOMPARE(m->ImageGitterIntegers[5][30] / 100, 1);
+    QCOMPARE(m->ImageIntegers[20][20], Unberuehrt);
+    m->g_MittelkreuzJa = 0;
+    QCOMPARE(malen(*m), ohne);
 }
 
 void TestBerechnung::absurd_data() {

@@ -8,6 +8,7 @@ class TestMaus : public QObject {
     void annahme();
     void zoomen_data();
     void zoomen();
+    void grosserWidget();
     void matrixzelle_data();
     void matrixzelle();
     void orbitpunkt();
@@ -97,6 +98,16 @@ void TestMaus::zoomen() {
     QCOMPARE(m->CJ_x, julia ? 9.0 : punkt.x());
     QCOMPARE(m->CJ_y, julia ? 9.0 : punkt.y());
     QCOMPARE(m->wahl_Gleichung, gleichung == 10003 ? 1 : gleichung);
+}
+
+// Beyond the buffers the picture is cut to 1200 x 1200, and so is the click's scale.
+void TestMaus::grosserWidget() {
+    const auto m = bildprobe(1500, 1300);
+    m->BildbreiteNeueEckpunkte();
+    const double mitte = m->MP_x;
+    QTest::mousePress(m.get(), Qt::LeftButton, {}, QPoint(600, 600));
+    QCOMPARE(m->MP_x, mitte);
+    QCOMPARE(m->g_Bildverhaeltnis, 1.0);
 }
 
 void TestMaus::matrixzelle_data() {

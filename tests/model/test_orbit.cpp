@@ -39,6 +39,7 @@ class TestOrbit : public QObject {
     void punkte();
     void startpunkt_data();
     void startpunkt();
+    void startAufDerAntidiagonale();
     void pfade();
     void lage_data();
     void lage();
@@ -125,6 +126,22 @@ void TestOrbit::startpunkt() {
     QVERIFY(std::abs(m->OrbitY[0] - punkt.y()) < 1e-12);
     QCOMPARE(m->OPx, mittelpunkt ? 100 : 60);
     QVERIFY(m->g_OrbitStartString.contains(QString::number(m->OPx)));
+}
+
+// Where the parts of the start value cancel each other it counts as zero: the constant is shown.
+void TestOrbit::startAufDerAntidiagonale() {
+    const auto m = orbitprobe(1, 1);
+    m->resize(276, 192); // 64 pixels a plane unit: coordinates are exact
+    m->MP_x = 0.0;
+    m->wahl_Gleichung = 2;
+    m->CJ_x = 0.375;
+    m->OPx = 42;
+    m->OPy = 10;
+    malen(*m);
+    QCOMPARE(m->OrbitX[0], 0.375);
+    m->OPy = 11;
+    malen(*m);
+    QCOMPARE(m->OrbitX[0], -2.0 + 42.0 / 64.0);
 }
 
 void TestOrbit::pfade() {
@@ -254,23 +271,31 @@ void TestOrbit::dickeUndSammlung() {
 
 void TestOrbit::farben_data() {
     QTest::addColumn<int>("farbe");
-    QTest::addColumn<QColor>("soll");
-    QTest::newRow("white") << 1 << QColor(255, 255, 255);
-    QTest::newRow("black") << 2 << QColor(0, 0, 0);
-    QTest::newRow("grey") << 3 << QColor(128, 128, 128);
-    QTest::newRow("red") << 4 << QColor(255, 0, 0);
-    QTest::newRow("varied: yellow") << 5 << QColor(255, 255, 0);
-    QTest::newRow("unknown: white") << 77 << QColor(255, 255, 255);
+    QTest::addColumn<QList<QColor>>("soll"); // the start pixel and below, right, both
+    const auto vier = [](const QColor& farbe) { return QList<QColor>(4, farbe); };
+    QTest::newRow("white") << 1 << vier(QColor(255, 255, 255));
+    QTest::newRow("black") << 2 << vier(QColor(0, 0, 0));
+    QTest::newRow("grey") << 3 << vier(QColor(128, 128, 128));
+    QTest::newRow("red") << 4 << vier(QColor(255, 0, 0));
+    QTest::newRow("varied") << 5
+                            << QList<QColor>{QColor(255, 255, 0), QColor(80, 80, 255),
+                                             QColor(0, 255, 0), QColor(255, 0, 0)};
+    QTest::newRow("unknown: white") << 77 << vier(QColor(255, 255, 255));
 }
 
 void TestOrbit::farben() {
     QFETCH(int, farbe);
+    QFETCH(QList<QColor>, soll);
     const auto m = orbitprobe(farbe, 1);
     m->g_maxOrbitIterat = 2;
     m->OPx = 150;
     m->OPy = 20;
-    const QImage bild = malen(*m);
-    QTEST(bild.pixelColor(150, 20), "soll");
+    QCOMPARE(malen(*m).pixelColor(150, 20), soll[0]);
+    m->g_OrbitDuennJa = 0;
+    const QImage dick = malen(*m);
+    QCOMPARE(dick.pixelColor(150, 21), soll[1]);
+    QCOMPARE(dick.pixelColor(151, 20), soll[2]);
+    QCOMPARE(dick.pixelColor(151, 21), soll[3]);
 }
 
 // A repaint draws the orbit again without collecting it twice or touching the zoom factor.
@@ -305,7 +330,10 @@ void TestOrbit::nurDerStartpixel() {
     m->Koppl_x = 0.7; // not an orbit setting
     QVERIFY(geruehrt());
     m->g_RechnenJa = 2;
+    m->Koppl_x = 0.8;
     QVERIFY(geruehrt());
+    QCOMPARE(m->g_RechnenJa, 1);
+    QVERIFY(!geruehrt());
 }
 
 void TestOrbit::aenderungSchaltetAus() {
@@ -323,6 +351,10 @@ void TestOrbit::aenderungSchaltetAus() {
     QCOMPARE(m->g_halbesBild, 10);
     QCOMPARE(m->OPx, 50);
     QCOMPARE(m->OrbitX[0], m->MP_x);
+    m->g_OrbitDuennJa = 0; // an orbit setting, but the preview gives way to its picture
+    m->g_RechnenJa = 1;
+    malen(*m);
+    QVERIFY(m->ImageIntegers[20][20] != -77);
 }
 
 void TestOrbit::ausserhalb() {
@@ -369,6 +401,12 @@ void TestOrbit::liste() {
     QVERIFY2(m->g_OrbitListeHTMStr.contains("2. (" + punkt + ", "),
              qPrintable(m->g_OrbitListeHTMStr));
     QVERIFY(m->g_OrbitListeHTMStr.contains(m->g_NameGlg));
+    m->OPx = 95; // stays bounded
+    m->OPy = 75;
+    m->g_maxOrbitIterat = m->Max_Iterationen = 300;
+    malen(*m);
+    QVERIFY(m->g_OrbitListeHTMStr.contains(">256. ("));
+    QVERIFY(!m->g_OrbitListeHTMStr.contains(">257. ("));
 }
 
 QTEST_MAIN(TestOrbit)
