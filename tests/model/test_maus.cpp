@@ -136,6 +136,10 @@ void TestMaus::matrixzelle() {
     m->g_SummeViertel = 6.0;
     QTest::mousePress(m.get(), Qt::LeftButton, {}, stelle);
     QCOMPARE(m->g_RechnenJa, 1);
+    m->zahl_Matrix = 1000;
+    m->g_halbesBild = 3; // quarters 2 to 4 have no cells to choose
+    QTest::mousePress(m.get(), Qt::LeftButton, {}, stelle);
+    QCOMPARE(m->zahl_Matrix, 1000);
 }
 
 void TestMaus::orbitpunkt() {

@@ -49,6 +49,7 @@ class TestOrbit : public QObject {
     void farben();
     void unveraendertesOrbit();
     void nurDerStartpixel();
+    void bildBleibt();
     void aenderungSchaltetAus();
     void ausserhalb();
     void absurd_data();
@@ -334,6 +335,30 @@ void TestOrbit::nurDerStartpixel() {
     QVERIFY(geruehrt());
     QCOMPARE(m->g_RechnenJa, 1);
     QVERIFY(!geruehrt());
+    m->ImageIntegers[std::size_t(m->OPy) + 1][std::size_t(m->OPx)] = -77;
+    malen(*m); // request 0: iterated for its orbit only
+    QCOMPARE(m->ImageIntegers[std::size_t(m->OPy) + 1][std::size_t(m->OPx)], -77);
+}
+
+// Recording an orbit leaves values and counts as they are, also where the kernels keep a history.
+void TestOrbit::bildBleibt() {
+    const auto m = orbitprobe(0, 1);
+    m->glg_Abbruch = 5;
+    m->g_Genauigkeit = 0.05;
+    m->wert_Abbruch = 150.0;
+    malen(*m);
+    const auto werte = std::make_unique<Mandelbrot::Bild<double>>(m->ImageDoubles);
+    const auto zaehler = std::make_unique<Mandelbrot::Bild<qint32>>(m->ImageIntegers);
+    m->g_OrbitJa = 1;
+    m->OPx = 95;
+    m->OPy = 75;
+    m->g_RechnenJa = 2;
+    std::fill_n(m->ImageIntegers[76].begin(), 201, -77);
+    malen(*m);
+    for (std::size_t zeile = 1; zeile <= 151; ++zeile) {
+        QVERIFY(m->ImageDoubles[zeile] == (*werte)[zeile]);
+        QVERIFY(m->ImageIntegers[zeile] == (*zaehler)[zeile]);
+    }
 }
 
 void TestOrbit::aenderungSchaltetAus() {
