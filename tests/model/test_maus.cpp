@@ -140,6 +140,10 @@ void TestMaus::matrixzelle() {
     m->g_halbesBild = 3; // quarters 2 to 4 have no cells to choose
     QTest::mousePress(m.get(), Qt::LeftButton, {}, stelle);
     QCOMPARE(m->zahl_Matrix, 1000);
+    m->g_halbesBild = 0;
+    m->TeilerColorbild = std::numeric_limits<double>::quiet_NaN();
+    QTest::mousePress(m.get(), Qt::LeftButton, {}, stelle);
+    QCOMPARE(m->zahl_Matrix, 44);
 }
 
 void TestMaus::orbitpunkt() {
