@@ -65,6 +65,8 @@ class Reihenlauf {
         qint64 groesster = 0;
     };
 
+    static Wert wertAus(const T& x, const T& y) { return {x, y}; }
+
     static constexpr qint32 kleiner(qint32 a, qint32 b) { return a < b ? a : b; }
     static constexpr qint64 kleiner(qint64 a, qint64 b) { return a < b ? a : b; }
 
@@ -182,12 +184,12 @@ class Reihenlauf {
     void runde(Schlange& q, Rest& rest, qint64 von, qint64 bis, qint64 erstes) {
         qint32 uebrig = 0;
         for (qint32 i = 0; i < q.anzahl; i += L) {
-            const Wert c(T::laden(q.cx + i), T::laden(q.cy + i));
+            const Wert c = wertAus(T::laden(q.cx + i), T::laden(q.cy + i));
             const Schritt schritt = schrittMit(c);
             const M belegt = ersteSpuren<Satz, n>(q.anzahl - i);
-            Buendel b{{Wert(T::laden(q.x + i), T::laden(q.y + i)), {}}, belegt, T(0.0), M(0)};
+            Buendel b{{wertAus(T::laden(q.x + i), T::laden(q.y + i)), {}}, belegt, T(0.0), M(0)};
             if constexpr (mitZwilling) {
-                b.s.w = Wert(T::laden(q.p + i), T::laden(q.t + i));
+                b.s.w = wertAus(T::laden(q.p + i), T::laden(q.t + i));
             } else {
                 b.s.w = b.s.z;
             }
@@ -303,9 +305,10 @@ class Reihenlauf {
                 }
                 groesster = rest.schritte[k] > groesster ? rest.schritte[k] : groesster;
             }
-            const Schritt schritt = schrittMit(Wert(T::laden(rest.cx + i), T::laden(rest.cy + i)));
-            Stand<Wert> s{Wert(T::laden(rest.x + i), T::laden(rest.y + i)),
-                          Wert(T::laden(rest.p + i), T::laden(rest.t + i))};
+            const Schritt schritt =
+                schrittMit(wertAus(T::laden(rest.cx + i), T::laden(rest.cy + i)));
+            Stand<Wert> s{wertAus(T::laden(rest.x + i), T::laden(rest.y + i)),
+                          wertAus(T::laden(rest.p + i), T::laden(rest.t + i))};
             const M ziel = M::laden(rest.schritte + i);
             T rq(0.0);
             for (qint64 k = 1; k <= groesster; ++k) {
@@ -370,9 +373,9 @@ class Reihenlauf {
         for (qint32 l = 0; l < L; ++l) {
             x[l] = r.x[i + (l < anzahl ? l : 0)];
         }
-        const Wert punkt(T::laden(x), T(r.y));
-        const Wert start = r.julia ? punkt : Wert(T(0.0), T(0.0));
-        const Schritt schritt = schrittMit(r.julia ? Wert(T(r.cx), T(r.cy)) : punkt);
+        const Wert punkt = wertAus(T::laden(x), T(r.y));
+        const Wert start = r.julia ? punkt : wertAus(T(0.0), T(0.0));
+        const Schritt schritt = schrittMit(r.julia ? wertAus(T(r.cx), T(r.cy)) : punkt);
         Zyklusbuendel b{{start, start},
                         {start, start},
                         0,
