@@ -1,5 +1,5 @@
 #include "equations/Gleichungen.h"
-#include "Mandelbrot.h"
+#include "Felder.h"
 #include "Testbasis.h"
 
 #include <memory>
@@ -7,51 +7,13 @@
 
 namespace {
 
-constexpr std::array<const char*, 20> Spalten{"MP_x",
-                                              "MP_y",
-                                              "Br_x",
-                                              "Max_Iterationen",
-                                              "glg_Abbruch",
-                                              "wert_Abbruch",
-                                              "Koppl_x",
-                                              "Koppl_y",
-                                              "div_Factor",
-                                              "konv_Factor",
-                                              "it_Factor",
-                                              "rechen_VarianteDiv",
-                                              "rechen_VarianteKonv",
-                                              "color_Offset",
-                                              "zahl_farbtab",
-                                              "zahl_Matrix",
-                                              "g_ZwillingJa",
-                                              "g_JuliaJa",
-                                              "CJ_x",
-                                              "CJ_y"};
-
-using Werte = std::array<double, Spalten.size()>;
-
-Werte werteVon(const Mandelbrot& m) {
-    return {m.MP_x,
-            m.MP_y,
-            m.Br_x,
-            double(m.Max_Iterationen),
-            double(m.glg_Abbruch),
-            m.wert_Abbruch,
-            m.Koppl_x,
-            m.Koppl_y,
-            m.div_Factor,
-            m.konv_Factor,
-            m.it_Factor,
-            double(m.rechen_VarianteDiv),
-            double(m.rechen_VarianteKonv),
-            double(m.color_Offset),
-            double(m.zahl_farbtab),
-            double(m.zahl_Matrix),
-            double(m.g_ZwillingJa),
-            double(m.g_JuliaJa),
-            m.CJ_x,
-            m.CJ_y};
-}
+const QStringList Spalten =
+    QString("MP_x MP_y Br_x Max_Iterationen glg_Abbruch wert_Abbruch Koppl_x "
+            "Koppl_y div_Factor konv_Factor it_Factor rechen_VarianteDiv "
+            "rechen_VarianteKonv color_Offset zahl_farbtab zahl_Matrix "
+            "g_ZwillingJa g_JuliaJa CJ_x CJ_y")
+        .split(' ');
+using Werte = std::array<double, 20>; ///< in the order of the columns
 
 /// The complete start state of each equation that has one of its own, all fields written out.
 struct Gruppe {
@@ -153,11 +115,12 @@ void TestStartwerte::jedeGleichung() {
     m->wahl_Gleichung = nummer;
     m->Initialisierung();
     QCOMPARE(m->wahl_Gleichung, nummer == 0 ? 1 : nummer);
-    const Werte ist = werteVon(*m);
     const Werte& soll = erwarteteWerte(nummer);
-    for (std::size_t i = 0; i < Spalten.size(); ++i) {
-        QVERIFY2(ist[i] == soll[i],
-                 qPrintable(QString("%1 is %2, not %3").arg(Spalten[i]).arg(ist[i]).arg(soll[i])));
+    for (std::size_t i = 0; i < soll.size(); ++i) {
+        const QString& name = Spalten[int(i)];
+        const double ist = feldwert(*m, Felder.at(name));
+        QVERIFY2(ist == soll[i],
+                 qPrintable(QString("%1 is %2, not %3").arg(name).arg(ist).arg(soll[i])));
     }
     const double verhaeltnis = 635.0 / 705.0;
     QCOMPARE(m->g_Bildverhaeltnis, verhaeltnis);
@@ -167,41 +130,26 @@ void TestStartwerte::jedeGleichung() {
 }
 
 void TestStartwerte::schalter() {
-    using Ganz = std::pair<qint32 Mandelbrot::*, qint32>;
-    const std::array ganze{Ganz{&Mandelbrot::g_PixConstX, 0},
-                           Ganz{&Mandelbrot::g_PixConstY, 0},
-                           Ganz{&Mandelbrot::g_VorschauAusJa, 0},
-                           Ganz{&Mandelbrot::g_Max_glg_Abbruch, 9},
-                           Ganz{&Mandelbrot::g_kPotenz, 10},
-                           Ganz{&Mandelbrot::g_UnDo, 0},
-                           Ganz{&Mandelbrot::wahlPalette48, 1},
-                           Ganz{&Mandelbrot::g_oberesHalbbild, 0},
-                           Ganz{&Mandelbrot::g_ZwillingJa, 0},
-                           Ganz{&Mandelbrot::g_MittelkreuzJa, 0},
-                           Ganz{&Mandelbrot::g_NullkreuzJa, 0},
-                           Ganz{&Mandelbrot::g_GitterJa, 0},
-                           Ganz{&Mandelbrot::g_GenauJa, 0},
-                           Ganz{&Mandelbrot::g_RechnenJa, 1},
-                           Ganz{&Mandelbrot::g_BildLoeschen, 0},
-                           Ganz{&Mandelbrot::g_linienLoeschenJa, 0},
-                           Ganz{&Mandelbrot::g_OrbitJa, 0},
-                           Ganz{&Mandelbrot::g_OrbitDuennJa, 0},
-                           Ganz{&Mandelbrot::g_maxOrbitIterat, 256},
-                           Ganz{&Mandelbrot::Orbitmodus, 0},
-                           Ganz{&Mandelbrot::g_OrbitMP, 0},
-                           Ganz{&Mandelbrot::g_OrbitAbIterAn, 0},
-                           Ganz{&Mandelbrot::g_zycmax, 7}};
-    for (const auto& [feld, wert] : ganze) {
-        (*m).*feld = 77;
+    // clang-format off
+    const std::map<QString, double> grundstellung{
+        {"g_PixConstX", 0}, {"g_PixConstY", 0}, {"g_VorschauAusJa", 0}, {"g_kPotenz", 10},
+        {"g_UnDo", 0}, {"wahlPalette48", 1}, {"g_oberesHalbbild", 0}, {"g_ZwillingJa", 0},
+        {"g_MittelkreuzJa", 0}, {"g_NullkreuzJa", 0}, {"g_GitterJa", 0}, {"g_GenauJa", 0},
+        {"g_RechnenJa", 1}, {"g_BildLoeschen", 0}, {"g_linienLoeschenJa", 0}, {"g_OrbitJa", 0},
+        {"g_OrbitDuennJa", 0}, {"g_maxOrbitIterat", 256}, {"g_OrbitMP", 0}, {"g_OrbitAbIterAn", 0},
+        {"g_zycmax", 7}, {"click2_Zoom", 0.5}, {"g_Gitterabstand", 0}, {"g_Genauigkeit", 0.0001},
+    };
+    // clang-format on
+    for (const auto& [name, wert] : grundstellung) {
+        setzeFeld(*m, Felder.at(name), 77.0);
     }
-    m->click2_Zoom = m->g_Gitterabstand = m->g_Genauigkeit = 77.0;
+    m->g_Max_glg_Abbruch = m->Orbitmodus = 77;
     m->Initialisierung();
-    for (std::size_t i = 0; i < ganze.size(); ++i) {
-        QVERIFY2((*m).*ganze[i].first == ganze[i].second, qPrintable(QString("row %1").arg(i)));
+    for (const auto& [name, wert] : grundstellung) {
+        QVERIFY2(feldwert(*m, Felder.at(name)) == wert, qPrintable(name));
     }
-    QCOMPARE(m->click2_Zoom, 0.5);
-    QCOMPARE(m->g_Gitterabstand, 0.0);
-    QCOMPARE(m->g_Genauigkeit, 0.0001);
+    QCOMPARE(m->g_Max_glg_Abbruch, 9);
+    QCOMPARE(m->Orbitmodus, 0);
     QCOMPARE(m->g_Versionsnummer, QString("1.5"));
 }
 

@@ -6,34 +6,46 @@
 
 namespace {
 
+/// The record's fields behind the quarter mark, and its checksum in front of it.
+constexpr std::array Ganze{
+    &Mandelbrot::bilddatenInteger, &Mandelbrot::wahl_Gleichung,   &Mandelbrot::g_ZwillingJa,
+    &Mandelbrot::glg_Abbruch,      &Mandelbrot::Max_Iterationen,  &Mandelbrot::g_JuliaJa,
+    &Mandelbrot::g_GenauJa,        &Mandelbrot::g_oberesHalbbild, &Mandelbrot::g_zycmax,
+    &Mandelbrot::g_MittelkreuzJa,  &Mandelbrot::g_NullkreuzJa,    &Mandelbrot::g_GitterJa};
+constexpr std::array Reelle{&Mandelbrot::bilddatenDouble,
+                            &Mandelbrot::bilddatenSumme,
+                            &Mandelbrot::Br_x,
+                            &Mandelbrot::MP_x,
+                            &Mandelbrot::MP_y,
+                            &Mandelbrot::wert_Abbruch,
+                            &Mandelbrot::Koppl_x,
+                            &Mandelbrot::Koppl_y,
+                            &Mandelbrot::g_Genauigkeit,
+                            &Mandelbrot::CJ_x,
+                            &Mandelbrot::CJ_y,
+                            &Mandelbrot::g_Bildverhaeltnis,
+                            &Mandelbrot::g_Gitterabstand};
+
 /// Gives every field of the record its own value, so that a swapped entry shows.
 void fuelle(Mandelbrot& m, int n) {
-    qint32 ganz = n;
-    for (auto* const feld :
-         {&m.bilddatenInteger, &m.wahl_Gleichung, &m.g_ZwillingJa, &m.glg_Abbruch,
-          &m.Max_Iterationen, &m.g_JuliaJa, &m.g_GenauJa, &m.g_oberesHalbbild, &m.g_zycmax,
-          &m.g_MittelkreuzJa, &m.g_NullkreuzJa, &m.g_GitterJa}) {
-        *feld = ganz++;
+    for (std::size_t i = 0; i < Ganze.size(); ++i) {
+        m.*Ganze[i] = n + qint32(i);
     }
-    double reell = n + 0.5;
-    for (auto* const feld : {&m.bilddatenDouble, &m.bilddatenSumme, &m.Br_x, &m.MP_x, &m.MP_y,
-                             &m.wert_Abbruch, &m.Koppl_x, &m.Koppl_y, &m.g_Genauigkeit, &m.CJ_x,
-                             &m.CJ_y, &m.g_Bildverhaeltnis, &m.g_Gitterabstand}) {
-        *feld = reell++;
+    for (std::size_t i = 0; i < Reelle.size(); ++i) {
+        m.*Reelle[i] = n + 0.5 + double(i);
     }
 }
 
 /// Whether the fields hold what fuelle(m, n) gave them.
 bool gefuellt(const Mandelbrot& m, int n) {
-    return m.bilddatenInteger == n && m.wahl_Gleichung == n + 1 && m.g_ZwillingJa == n + 2 &&
-           m.glg_Abbruch == n + 3 && m.Max_Iterationen == n + 4 && m.g_JuliaJa == n + 5 &&
-           m.g_GenauJa == n + 6 && m.g_oberesHalbbild == n + 7 && m.g_zycmax == n + 8 &&
-           m.g_MittelkreuzJa == n + 9 && m.g_NullkreuzJa == n + 10 && m.g_GitterJa == n + 11 &&
-           m.bilddatenDouble == n + 0.5 && m.bilddatenSumme == n + 1.5 && m.Br_x == n + 2.5 &&
-           m.MP_x == n + 3.5 && m.MP_y == n + 4.5 && m.wert_Abbruch == n + 5.5 &&
-           m.Koppl_x == n + 6.5 && m.Koppl_y == n + 7.5 && m.g_Genauigkeit == n + 8.5 &&
-           m.CJ_x == n + 9.5 && m.CJ_y == n + 10.5 && m.g_Bildverhaeltnis == n + 11.5 &&
-           m.g_Gitterabstand == n + 12.5;
+    bool gleich = true;
+    for (std::size_t i = 0; i < Ganze.size(); ++i) {
+        gleich = gleich && m.*Ganze[i] == n + qint32(i);
+    }
+    for (std::size_t i = 0; i < Reelle.size(); ++i) {
+        gleich = gleich && m.*Reelle[i] == n + 0.5 + double(i);
+    }
+    return gleich;
 }
 
 void sichere(Mandelbrot& m, int n) {
@@ -60,7 +72,6 @@ class TestBildspeicher : public QObject {
     void platz();
     void teilbild();
     void ganzesBildUndViertel1();
-    void verlauf();
     void schritteZurueck();
     void schrittOhneBild();
     void wiederholen();
@@ -171,26 +182,14 @@ void TestBildspeicher::ganzesBildUndViertel1() {
     QVERIFY(gefuellt(*m, 100));
 }
 
-void TestBildspeicher::verlauf() {
-    m->ImageIntegers[0][299] = 7; // the last entry that is kept
+void TestBildspeicher::schritteZurueck() {
+    m->ImageIntegers[0][299] = 7; // the last entry that the history keeps
     m->ImageDoubles[0][299] = 7.5;
     for (const int n : {100, 200, 300}) {
         sichere(*m, n);
     }
-    QCOMPARE(m->UnDo0Integers[0], 300);
-    QCOMPARE(m->UnDo1Integers[0], 200);
-    QCOMPARE(m->UnDo2Integers[0], 100);
-    QCOMPARE(m->UnDo0Doubles[0], 300.5);
-    QCOMPARE(m->UnDo1Doubles[0], 200.5);
-    QCOMPARE(m->UnDo2Doubles[0], 100.5);
     QCOMPARE(m->UnDo2Integers[299], 7);
     QCOMPARE(m->UnDo2Doubles[299], 7.5);
-}
-
-void TestBildspeicher::schritteZurueck() {
-    for (const int n : {100, 200, 300}) {
-        sichere(*m, n);
-    }
     m->g_UnDo = 1;
     QCOMPARE(meldungBei([this] { m->UnDo1DatenTeilbildLaden(); }).anzahl, 0);
     QVERIFY(gefuellt(*m, 200));
@@ -244,10 +243,10 @@ void TestBildspeicher::wiederholenOhneQuelle() {
         sichere(*m, n);
     }
     QCOMPARE(meldungBei([this] { m->WiederholenDatenTeilbildLaden(); }).anzahl, 0);
-    QCOMPARE(m->wahl_Gleichung, 0);
-    QCOMPARE(m->g_GitterJa, 0);
+    for (const auto feld : Ganze) {
+        QCOMPARE((*m).*feld, 0);
+    }
     QCOMPARE(m->Br_x, 0.0);
-    QCOMPARE(m->g_Gitterabstand, 0.0);
     QCOMPARE(m->g_halbesBild, 1);
 }
 
