@@ -18,6 +18,17 @@ QRgb farbeVon(qint64 nummer) {
     return qRgb(reihe % 256, reihe / 256, 77);
 }
 
+void spalten() {
+    QTest::addColumn<int>("variante");
+    QTest::addColumn<double>("v");
+    QTest::addColumn<qint32>("n");
+    QTest::addColumn<QRgb>("soll");
+}
+
+void zeile(const char* name, int variante, double v, qint32 n, QRgb soll) {
+    QTest::newRow(name) << variante << v << n << soll;
+}
+
 } // namespace
 
 class TestEinfaerbung : public QObject {
@@ -38,6 +49,7 @@ class TestEinfaerbung : public QObject {
     void streifen();
 
   private:
+    void pruefe(qint32& variantenfeld);
     QRgb einPixel(double v, qint32 n);
     void matrixLauf();
 
@@ -74,6 +86,14 @@ void TestEinfaerbung::init() {
     bild.fill(Vorher);
 }
 
+void TestEinfaerbung::pruefe(qint32& variantenfeld) {
+    QFETCH(const int, variante);
+    QFETCH(const double, v);
+    QFETCH(const qint32, n);
+    variantenfeld = variante;
+    QTEST(einPixel(v, n), "soll");
+}
+
 QRgb TestEinfaerbung::einPixel(double v, qint32 n) {
     m->ImageDoubles[8][5] = v;
     m->ImageIntegers[8][5] = n;
@@ -82,13 +102,7 @@ QRgb TestEinfaerbung::einPixel(double v, qint32 n) {
 }
 
 void TestEinfaerbung::divergent_data() {
-    QTest::addColumn<int>("variante");
-    QTest::addColumn<double>("v");
-    QTest::addColumn<qint32>("n");
-    QTest::addColumn<QRgb>("soll");
-    const auto zeile = [](const char* name, int variante, double v, qint32 n, QRgb soll) {
-        QTest::newRow(name) << variante << v << n << soll;
-    };
+    spalten();
     zeile("0 black", 0, 20.0, 7, Schwarz);
     zeile("1 white", 1, 20.0, 7, Weiss);
     zeile("negative: the count", -3, 20.0, 7, farbeVon(7));
@@ -114,22 +128,10 @@ void TestEinfaerbung::divergent_data() {
     zeile("negative count", 5, 1.0, std::numeric_limits<qint32>::min() + 1, farbeVon(10));
 }
 
-void TestEinfaerbung::divergent() {
-    QFETCH(const int, variante);
-    QFETCH(const double, v);
-    QFETCH(const qint32, n);
-    m->rechen_VarianteDiv = variante;
-    QTEST(einPixel(v, n), "soll");
-}
+void TestEinfaerbung::divergent() { pruefe(m->rechen_VarianteDiv); }
 
 void TestEinfaerbung::konvergent_data() {
-    QTest::addColumn<int>("variante");
-    QTest::addColumn<double>("v");
-    QTest::addColumn<qint32>("n");
-    QTest::addColumn<QRgb>("soll");
-    const auto zeile = [](const char* name, int variante, double v, qint32 n, QRgb soll) {
-        QTest::newRow(name) << variante << v << n << soll;
-    };
+    spalten();
     zeile("0 black", 0, 0.31, Grenze, Schwarz);
     zeile("negative black", -1, 0.31, Grenze, Schwarz);
     zeile("1 white", 1, 0.31, Grenze, Weiss);
@@ -150,13 +152,7 @@ void TestEinfaerbung::konvergent_data() {
     zeile("NaN", 12, KeineZahl, Grenze, farbeVon(0));
 }
 
-void TestEinfaerbung::konvergent() {
-    QFETCH(const int, variante);
-    QFETCH(const double, v);
-    QFETCH(const qint32, n);
-    m->rechen_VarianteKonv = variante;
-    QTEST(einPixel(v, n), "soll");
-}
+void TestEinfaerbung::konvergent() { pruefe(m->rechen_VarianteKonv); }
 
 void TestEinfaerbung::faktorUndVersatz() {
     m->it_Factor = 2.5;

@@ -1,6 +1,7 @@
 #include "equations/Gleichungen.h"
 #include "Felder.h"
 #include "Meldung.h"
+#include "Runden.h"
 #include "Testbasis.h"
 
 #include <memory>
@@ -32,6 +33,18 @@ constexpr double Groesste = 2147483647.0;
 constexpr double Kleinste = -2147483648.0;
 constexpr double Unendlich = std::numeric_limits<double>::infinity();
 constexpr double KeineZahl = std::numeric_limits<double>::quiet_NaN();
+
+// The ends of the ranges, to the last value that the integer holds.
+constexpr qint32 Kleinste32 = std::numeric_limits<qint32>::min();
+constexpr qint64 Kleinste64 = std::numeric_limits<qint64>::min();
+static_assert(trunc32(-2147483647.9) == -2147483647 && trunc32(-2147483648.9) == Kleinste32);
+static_assert(trunc32(2147483647.9) == 2147483647 && trunc32(2147483648.0) == Kleinste32);
+static_assert(trunc32(-2147483649.0) == Kleinste32 && trunc32(KeineZahl) == Kleinste32);
+static_assert(trunc64(9223372036854774784.0) == 9223372036854774784 && trunc64(-1.9) == -1);
+static_assert(trunc64(9223372036854775808.0) == Kleinste64 && trunc64(KeineZahl) == Kleinste64);
+static_assert(truncSat(2147483646.9) == 2147483646 && truncSat(-2147483647.9) == -2147483647);
+static_assert(truncSat(Unendlich) == 2147483647 && truncSat(-Unendlich) == Kleinste32);
+static_assert(truncSat(KeineZahl) == 0);
 
 // clang-format off
 const std::vector<Fall> Faelle{
@@ -213,6 +226,7 @@ void TestOperationen::schritt() {
         QVERIFY2(gleich(ist, soll[name]),
                  qPrintable(QString("%1 is %2, not %3").arg(name).arg(ist).arg(soll[name])));
     }
+    QCOMPARE(m->g_PalettenZahl, QString::number(m->zahl_farbtab / 12 + 1));
 }
 
 void TestOperationen::breiteMitZoomEins_data() {

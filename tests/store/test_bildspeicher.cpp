@@ -6,25 +6,19 @@
 
 namespace {
 
-/// The record's fields behind the quarter mark, and its checksum in front of it.
+using M = Mandelbrot;
+
+/// The record's integers without the quarter mark, and its doubles, in the order of the entries.
+// clang-format off
 constexpr std::array Ganze{
-    &Mandelbrot::bilddatenInteger, &Mandelbrot::wahl_Gleichung,   &Mandelbrot::g_ZwillingJa,
-    &Mandelbrot::glg_Abbruch,      &Mandelbrot::Max_Iterationen,  &Mandelbrot::g_JuliaJa,
-    &Mandelbrot::g_GenauJa,        &Mandelbrot::g_oberesHalbbild, &Mandelbrot::g_zycmax,
-    &Mandelbrot::g_MittelkreuzJa,  &Mandelbrot::g_NullkreuzJa,    &Mandelbrot::g_GitterJa};
-constexpr std::array Reelle{&Mandelbrot::bilddatenDouble,
-                            &Mandelbrot::bilddatenSumme,
-                            &Mandelbrot::Br_x,
-                            &Mandelbrot::MP_x,
-                            &Mandelbrot::MP_y,
-                            &Mandelbrot::wert_Abbruch,
-                            &Mandelbrot::Koppl_x,
-                            &Mandelbrot::Koppl_y,
-                            &Mandelbrot::g_Genauigkeit,
-                            &Mandelbrot::CJ_x,
-                            &Mandelbrot::CJ_y,
-                            &Mandelbrot::g_Bildverhaeltnis,
-                            &Mandelbrot::g_Gitterabstand};
+    &M::bilddatenInteger, &M::wahl_Gleichung, &M::g_ZwillingJa, &M::glg_Abbruch,
+    &M::Max_Iterationen, &M::g_JuliaJa, &M::g_GenauJa, &M::g_oberesHalbbild, &M::g_zycmax,
+    &M::g_MittelkreuzJa, &M::g_NullkreuzJa, &M::g_GitterJa};
+constexpr std::array Reelle{
+    &M::bilddatenDouble, &M::bilddatenSumme, &M::Br_x, &M::MP_x, &M::MP_y, &M::wert_Abbruch,
+    &M::Koppl_x, &M::Koppl_y, &M::g_Genauigkeit, &M::CJ_x, &M::CJ_y, &M::g_Bildverhaeltnis,
+    &M::g_Gitterabstand};
+// clang-format on
 
 /// Gives every field of the record its own value, so that a swapped entry shows.
 void fuelle(Mandelbrot& m, int n) {
