@@ -1,3 +1,4 @@
+#include "equations/Zeilenkern.h"
 #include "Mandelbrot.h"
 #include "Testbasis.h"
 
@@ -24,6 +25,8 @@ class TestAbbruch : public QObject {
     void zyklen();
     void juengsterTreffer();
     void ohneToleranz();
+    void voreinstellung_data();
+    void voreinstellung();
     void orbit_data();
     void orbit();
 
@@ -151,6 +154,36 @@ void TestAbbruch::ohneToleranz() {
         m->ym.fill(1.0);
         const double rq = m->BetrQ_Varianten(1.0, 1.0, 0.0, 0.0);
         QVERIFY(qIsNaN(genau) ? qIsNaN(rq) : rq == -genau);
+    }
+}
+
+void TestAbbruch::voreinstellung_data() {
+    QTest::addColumn<qint32>("art");
+    QTest::addColumn<qint32>("zycmax");
+    QTest::addColumn<qint32>("eintraege");
+    QTest::newRow("no cycle search") << 3 << 7 << 0;
+    QTest::newRow("one more than kept") << 4 << 7 << 8;
+    QTest::newRow("0: one") << 5 << 0 << 1;
+    QTest::newRow("largest") << 5 << Groesste << 25;
+    QTest::newRow("negative") << 4 << -1 << 0;
+    QTest::newRow("smallest") << 4 << Kleinste << 0;
+}
+
+void TestAbbruch::voreinstellung() {
+    QFETCH(qint32, art);
+    QFETCH(qint32, zycmax);
+    QFETCH(qint32, eintraege);
+    m->glg_Abbruch = art;
+    m->g_zycmax = zycmax;
+    m->pm = m->tm = m->xm;
+    zyklusVoreinstellen(*m, 0.5, -0.25);
+    for (qint32 i = 0; i < 25; ++i) {
+        const auto j = static_cast<std::size_t>(i);
+        const bool gesetzt = i < eintraege;
+        QCOMPARE(m->xm[j], gesetzt ? 0.5 + 1000.111 : 1000.0);
+        QCOMPARE(m->ym[j], gesetzt ? -0.25 + 1000.111 : 1000.0);
+        QCOMPARE(m->pm[j], m->xm[j]);
+        QCOMPARE(m->tm[j], m->ym[j]);
     }
 }
 
