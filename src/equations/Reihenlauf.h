@@ -19,7 +19,8 @@
 /// Which measure a loop is made for.
 enum class Mass { Norm, Andere, Zyklus };
 
-template <class Satz, class Wert, class Abbildung, class Kopplung, bool mitZwilling, Mass mass>
+template <class Satz, template <class> class Wertart, class Abbildung, class Kopplung,
+          bool mitZwilling, Mass mass>
 class Reihenlauf {
   public:
     explicit Reihenlauf(Reihe& auftrag, const Abbildung& gleichung)
@@ -37,9 +38,11 @@ class Reihenlauf {
     }
 
   private:
-    static constexpr int n = Satz::Vektoren;
+    /// A cycle search runs a bundle to its end: the fewer lanes wait for the last one the better.
+    static constexpr int n = mass == Mass::Zyklus ? 1 : Satz::Vektoren;
     using T = Spuren<Satz, n>;
     using M = Maske<Satz, n>;
+    using Wert = Wertart<T>;
     using Schritt = Doppelschritt<Abbildung, Kopplung, Wert>;
     static constexpr int L = T::Anzahl; ///< lanes of a bundle
     static constexpr qint64 Stueck = 8; ///< steps between two looks at the lanes
@@ -464,11 +467,11 @@ class Reihenwahl {
         case Reihenformel::Keine:
             return;
         case Reihenformel::Quadrat:
-            return mitZwilling<Paar<T>, ReelleKopplung>(r, Ungebremst<Quadrat>{});
+            return mitZwilling<Paar, ReelleKopplung>(r, Ungebremst<Quadrat>{});
         case Reihenformel::Auge:
-            return mitZwilling<Paar<T>, AugenKopplung>(r, Ungebremst<Auge>{});
+            return mitZwilling<Paar, AugenKopplung>(r, Ungebremst<Auge>{});
         case Reihenformel::Vierpol:
-            return mitZwilling<Paar<T>, ReelleKopplung>(r, Vierpol{r.schwelle});
+            return mitZwilling<Paar, ReelleKopplung>(r, Vierpol{r.schwelle});
         case Reihenformel::Z2:
             return term<Term::Z2>(r);
         case Reihenformel::Z3:
@@ -497,28 +500,26 @@ class Reihenwahl {
     }
 
   private:
-    using T = Spuren<Satz, Satz::Vektoren>;
-
     template <Term t>
     static void term(Reihe& r) {
-        mitZwilling<SpurenKomplex<T>, KomplexeKopplung>(r, Ungebremst<TermPlusC<t>>{{r.exponent}});
+        mitZwilling<SpurenKomplex, KomplexeKopplung>(r, Ungebremst<TermPlusC<t>>{{r.exponent}});
     }
 
-    template <class Wert, class Kopplung, class Abbildung>
+    template <template <class> class Wertart, class Kopplung, class Abbildung>
     static void mitZwilling(Reihe& r, const Abbildung& a) {
-        return r.zwilling == 0 ? mitMass<Wert, Kopplung, Abbildung, false>(r, a)
-                               : mitMass<Wert, Kopplung, Abbildung, true>(r, a);
+        return r.zwilling == 0 ? mitMass<Wertart, Kopplung, Abbildung, false>(r, a)
+                               : mitMass<Wertart, Kopplung, Abbildung, true>(r, a);
     }
 
-    template <class Wert, class Kopplung, class Abbildung, bool zwilling>
+    template <template <class> class Wertart, class Kopplung, class Abbildung, bool zwilling>
     static void mitMass(Reihe& r, const Abbildung& a) {
         const auto art = static_cast<Abbruchart>(r.abbruchart);
         if (art == Abbruchart::Delta || art == Abbruchart::Zyklen) {
-            Reihenlauf<Satz, Wert, Abbildung, Kopplung, zwilling, Mass::Zyklus>(r, a).rechnen();
+            Reihenlauf<Satz, Wertart, Abbildung, Kopplung, zwilling, Mass::Zyklus>(r, a).rechnen();
         } else if (art == Abbruchart::Norm) {
-            Reihenlauf<Satz, Wert, Abbildung, Kopplung, zwilling, Mass::Norm>(r, a).rechnen();
+            Reihenlauf<Satz, Wertart, Abbildung, Kopplung, zwilling, Mass::Norm>(r, a).rechnen();
         } else {
-            Reihenlauf<Satz, Wert, Abbildung, Kopplung, zwilling, Mass::Andere>(r, a).rechnen();
+            Reihenlauf<Satz, Wertart, Abbildung, Kopplung, zwilling, Mass::Andere>(r, a).rechnen();
         }
     }
 };

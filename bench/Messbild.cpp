@@ -1,0 +1,50 @@
+#include "Messbild.h"
+
+#include "equations/Zeilenkern.h"
+
+#include <ctime>
+#include <memory>
+
+Messbild::Messbild(qint32 gleichung, const std::function<void(Mandelbrot&)>& abweichung)
+    : einstellen([gleichung, abweichung](Mandelbrot& m) {
+          m.wahl_Gleichung = gleichung;
+          m.Initialisierung();
+          if (abweichung) {
+              abweichung(m);
+          }
+          m.kPotHg = m.kPotHu = m.g_kPotenz / 2;
+          m.g_Bildverhaeltnis = double{Zeilen} / Spalten;
+          m.Br_y = m.g_Bildverhaeltnis * m.Br_x;
+          m.BildbreiteNeueEckpunkte();
+      }),
+      x(Spalten), wert(Spalten), zaehler(Spalten) {}
+
+Mandelbrot& Messbild::modell() {
+    static const auto einziges = std::make_unique<Mandelbrot>();
+    return *einziges;
+}
+
+double Messbild::rechnen(qint32 abstand) {
+    Mandelbrot& m = modell();
+    einstellen(m);
+    const double schritt = std::fabs(m.R_Max - m.R_Min) / Spalten;
+    double laufend = m.R_Min;
+    for (double& wertX : x) {
+        wertX = laufend;
+        laufend += schritt;
+    }
+    // Processor time: other programs on the machine do not count.
+    const std::clock_t beginn = std::clock();
+    double y = m.I_Max;
+    for (qint32 zeile = 0; zeile < Zeilen; ++zeile) {
+        if (zeile % abstand == 0) {
+            zeileRechnen(m, {.x = x,
+                             .y = y,
+                             .julia = m.wahl_Gleichung % 2 == 0,
+                             .wert = wert,
+                             .zaehler = zaehler});
+        }
+        y -= schritt;
+    }
+    return 1000.0 * static_cast<double>(std::clock() - beginn) / CLOCKS_PER_SEC;
+}
