@@ -11,9 +11,9 @@ pakete_bau=(
 )
 # To show the program where there is no display, and to photograph it.
 pakete_anzeige=(xvfb xauth xdotool imagemagick)
-# To check formatting, warnings, scripts and the package.
+# To check formatting, warnings, scripts, benchmarks and the package.
 pakete_ci=(
-    clang clang-format clang-tidy shellcheck git
+    clang clang-format clang-tidy shellcheck git libbenchmark-dev
     dpkg-dev file desktop-file-utils appstream lintian
 )
 if [[ -n ${WAYLAND_DISPLAY:-} ]]; then
