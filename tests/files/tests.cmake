@@ -1,2 +1,1 @@
-wirbelwerk_test(test_bilddaten files/test_bilddaten.cpp)
-wirbelwerk_test(test_export files/test_export.cpp)
+wirbelwerk_test(test_dateien files/test_dateien.cpp)

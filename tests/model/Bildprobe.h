@@ -1,9 +1,6 @@
 #pragma once
 
-#include "Mandelbrot.h"
-#include "Testbasis.h"
-
-#include <memory>
+#include "Texttabelle.h"
 
 /// A shown model of the given picture size (the palette strip comes on top of the width), with its
 /// first picture not yet computed.
