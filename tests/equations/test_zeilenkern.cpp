@@ -155,9 +155,14 @@ void TestZeilenkern::wieEinzeln() {
     const auto zwischen = [&](double von, double bis) {
         return std::uniform_real_distribution<double>(von, bis)(zufall);
     };
+    // The equations without lanes differ by the shortcut alone and are slow: fewer settings.
+    const bool inSpuren = gleichung < 7 || (gleichung > 99 && gleichung % 100 < 5);
     qint32 n = 0;
     for (qint32 zwilling = -1; zwilling <= 12; ++zwilling) {
         for (qint32 art = -1; art <= 10; ++art, ++n) {
+            if (!inSpuren && n % 4 != 0) {
+                continue;
+            }
             Versuch v;
             v.werte.gleichung = gleichung;
             v.werte.zwilling = n % 5 == 0 ? 0 : zwilling;
