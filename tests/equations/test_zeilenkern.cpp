@@ -211,30 +211,28 @@ void TestZeilenkern::lange() {
     QFETCH(double, links);
     QFETCH(double, breite);
     QFETCH(double, y);
-    qint32 n = 0;
-    for (const qint32 art : {1, 0, 2, 4, 5, 8}) {
-        for (const qint32 zwilling : {0, 1, 4}) {
-            Versuch v;
-            v.werte.gleichung = gleichung;
-            v.werte.zwilling = zwilling;
-            v.werte.art = art;
-            v.werte.grenze = 5000 - n;
-            v.werte.k = 3;
-            v.werte.kx = 0.1;
-            v.werte.cjx = -0.12;
-            v.werte.cjy = 0.74;
-            v.werte.zycmax = 7 + n;
-            v.werte.wert = art >= 4 && n % 2 == 0 ? 1e6 : 400.0;
-            v.julia = gleichung % 2 == 0;
-            v.y = y;
-            for (qint32 i = 0; i < 37; ++i) {
-                v.x.push_back(links + breite * i / 37);
-            }
-            ++n;
-            vergleichen(v);
-            if (QTest::currentTestFailed()) {
-                return;
-            }
+    constexpr qint32 arten[] = {1, 0, 2, 4, 5, 8, 4};
+    constexpr qint32 zwillinge[] = {0, 1, 4};
+    for (qint32 n = 0; n < 7; ++n) {
+        Versuch v;
+        v.werte.gleichung = gleichung;
+        v.werte.zwilling = zwillinge[n % 3];
+        v.werte.art = arten[n];
+        v.werte.grenze = 5000 - n;
+        v.werte.k = 3;
+        v.werte.kx = 0.1;
+        v.werte.cjx = -0.12;
+        v.werte.cjy = 0.74;
+        v.werte.zycmax = 7 + n;
+        v.werte.wert = n > 2 && n % 2 == 0 ? 1e6 : 400.0;
+        v.julia = gleichung % 2 == 0;
+        v.y = y;
+        for (qint32 i = 0; i < 37; ++i) {
+            v.x.push_back(links + breite * i / 37);
+        }
+        vergleichen(v);
+        if (QTest::currentTestFailed()) {
+            return;
         }
     }
     if (gleichung <= 6 || gleichung == 101) {
