@@ -194,7 +194,7 @@ class UI : public QMainWindow {
     void Max_IterationenDurch10Slot();
     void wert_AbbruchDurch10Slot();
     void wert_AbbruchMal10Slot();
-    // Menu Gleichung/Equation
+    // Menu Gleichung/Equation: a slot for each number, since the menu connects by name
     void tu_nixSlot();
     void Gleichung1Slot();
     void Gleichung2Slot();

@@ -13,6 +13,7 @@
 #include <QScreen>
 #include <QThread>
 
+#include <algorithm>
 #include <cstdio>
 #include <span>
 
@@ -368,6 +369,12 @@ int main(int argc, char** argv) {
     }
     qInstallMessageHandler(melden);
     const QStringList gewaehlt = worte.mid(2);
+    for (const QString& name : gewaehlt) {
+        if (std::ranges::none_of(Szenen, [&](const Szene& s) { return name == s.name; })) {
+            std::fprintf(stderr, "no such scene: %s\n", qPrintable(name));
+            return 2;
+        }
+    }
     for (const Szene& szene : Szenen) {
         if ((gewaehlt.isEmpty() || gewaehlt.contains(szene.name)) &&
             !aufnehmen(szene, QDir(worte[1]))) {

@@ -39,7 +39,9 @@ template <class K>
     }
 }
 
-/// What the power, eye and pole equations put in place of Z. ZS is the conjugate, Zm = Z*ZS.
+/// What the power, eye and pole equations put in place of Z. ZS is the conjugate, Zm = Z*ZS. A new
+/// one needs its value in termWert, its place in a family's table, and an entry in the list of that
+/// family's kernel (KernTerm.cpp); without the last, its equation stands still.
 enum class Term {
     Keiner, ///< the number has no formula
     Z,

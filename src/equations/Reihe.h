@@ -2,7 +2,8 @@
 
 #include <QtGlobal>
 
-/// The equations that lanes carry.
+/// The equations that lanes carry; all others are computed pixel by pixel. A new one needs its row
+/// in Zeilenkern.cpp and its case in Reihenlauf.h.
 enum class Reihenformel : qint32 {
     Keine,
     Quadrat,
