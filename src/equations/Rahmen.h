@@ -51,16 +51,21 @@ template <class Schritt, class Wert>
 double abgekuerzt(const Mandelbrot& m, const Schritt& schritt, Stand<Wert> s) {
     const double wertAbbruch = m.wert_Abbruch;
     const qint32 grenze = m.Max_Iterationen;
-    qint32 iterationen = 1;
-    if (schritt(s)) {
-        return ergebnis(m, iterationen + (Schritt::zaehltAbbruch ? 1 : 0), 0.0, true);
-    }
     Wiederkehr<Wert> wiederkehr(s);
-    const Abbruchart art = abbruchVorbereiten(m);
-    const bool zyklussuche = istZyklussuche(art);
+    Abbruchart art{};
+    bool zyklussuche = false;
     qint64 periode = 0;
     qint32 nachlauf = -1; // steps until the remaining ones may be reduced
-    for (;;) {
+    for (qint32 iterationen = 1;;) {
+        if (schritt(s)) {
+            return ergebnis(m, iterationen + (Schritt::zaehltAbbruch ? 1 : 0), 0.0, true);
+        }
+        if (iterationen == 1) {
+            art = abbruchVorbereiten(m);
+            zyklussuche = istZyklussuche(art);
+            // The history does not hold the start value, so the first step is where to begin.
+            wiederkehr = Wiederkehr<Wert>(s);
+        }
         const double betrQ = zyklussuche ? zyklusBetrag(m, art, re(s.z), im(s.z))
                                          : betragOhneZyklus(art, re(s.z), im(s.z));
         ++iterationen;
@@ -76,9 +81,6 @@ double abgekuerzt(const Mandelbrot& m, const Schritt& schritt, Stand<Wert> s) {
             if (iterationen == grenze) {
                 return ergebnis(m, grenze, betrQ, false);
             }
-        }
-        if (schritt(s)) {
-            return ergebnis(m, iterationen + (Schritt::zaehltAbbruch ? 1 : 0), 0.0, true);
         }
     }
 }
