@@ -24,8 +24,9 @@
 
 namespace {
 
-constexpr int GezeigteSchritte = 30;       ///< last steps that a failure prints
-constexpr int LangsamerSchritt = 20000;    ///< milliseconds after which a step counts as hanging
+constexpr int GezeigteSchritte = 30;    ///< last steps that a failure prints
+constexpr int LangsamerSchritt = 20000; ///< milliseconds after which a step counts as hanging
+constexpr qint32 MeisteIterationen = 200;
 constexpr qint32 Iterationsgrenze = 60;    ///< keeps one picture short
 constexpr QSize GroessteAnsicht(700, 500); ///< larger windows are left again after a few steps
 
@@ -154,7 +155,8 @@ class Dauerlauf {
                 ganze[bis(int(ganze.size()))]->setValue(ganzzahl());
             }
         }
-        fenster.UI_Iterationen->setValue(std::min(fenster.UI_Iterationen->value(), 2000));
+        fenster.UI_Iterationen->setValue(
+            std::min(fenster.UI_Iterationen->value(), MeisteIterationen));
         merken(n, "values and Start!");
         bis(3) == 0 ? fenster.VorschauSlot() : fenster.NeueBerechnungSlot();
     }
@@ -171,7 +173,8 @@ class Dauerlauf {
         QBuffer quelle(&inhalt);
         quelle.open(QIODevice::ReadOnly);
         bilddatenLesen(quelle, fenster);
-        fenster.UI_Iterationen->setValue(std::min(fenster.UI_Iterationen->value(), 2000));
+        fenster.UI_Iterationen->setValue(
+            std::min(fenster.UI_Iterationen->value(), MeisteIterationen));
         fenster.NeueBerechnungSlot();
     }
 
@@ -183,9 +186,12 @@ class Dauerlauf {
 
     /// The run tests commands, not patience: few iterations, small windows.
     void kurzHalten() {
-        if (fenster.Menge->Max_Iterationen > 2000 || bis(20) == 0) {
+        if (fenster.Menge->Max_Iterationen > MeisteIterationen || bis(20) == 0) {
             fenster.Menge->Max_Iterationen = Iterationsgrenze;
             fenster.UI_Iterationen->setValue(Iterationsgrenze);
+        }
+        if (fenster.Menge->g_PixConstX > GroessteAnsicht.width() && bis(3) == 0) {
+            fenster.Menge->g_PixConstX = 0;
         }
         const bool gross = fenster.width() > GroessteAnsicht.width() ||
                            fenster.height() > GroessteAnsicht.height();

@@ -195,7 +195,7 @@ class TestDateien : public QObject {
 
     void zufallsdateien() {
         QRandomGenerator wuerfel(20240309);
-        for (int nr = 0; nr < 800; ++nr) {
+        for (int nr = 0; nr < 3000; ++nr) {
             const QByteArray bytes = zufall(wuerfel, wuerfel.bounded(300));
             lesen(*fenster, bytes);
             const Inhalt da = inhalt(*fenster);
