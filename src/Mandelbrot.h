@@ -2,6 +2,7 @@
 
 #include "model/Orbitstand.h"
 #include "model/Signatur.h"
+#include "Schalter.h"
 #include "stdafx.h"
 
 #include <optional>
@@ -51,7 +52,7 @@ class Mandelbrot : public QWidget {
     mutable qint32 g_GenauJa = 0;    ///< 1 = the last bailout test was a cycle search
     qint32 g_Max_glg_Abbruch = 0;    ///< highest bailout variant
     qint32 g_Max_rgbFarben = 0;      ///< colours of the palette used last: 256, 512 or 582
-    qint32 g_RechnenJa = 0;          ///< request: 0 recolour, 1 compute, 2 with orbit, 3 preview
+    qint32 g_RechnenJa = 0;          ///< request, an Anforderung
     qint32 g_oberesHalbbild = 0;     ///< 1 upper, 2 lower half of the picture only
     qint32 g_BildLoeschen = 0;       ///< 1 or 2: clear the picture
     qint32 g_linienLoeschenJa = 0;   ///< 1..5: lines were switched off
@@ -65,8 +66,8 @@ class Mandelbrot : public QWidget {
     qint32 g_PixConstY = 0;          ///< fixed picture height, pixels; 0 = the widget's
     qint32 OPx = 0;                  ///< orbit start pixel, column in the computed rectangle
     qint32 OPy = 0;                  ///< orbit start pixel, row in the computed rectangle
-    qint32 g_OrbitJa = 0;            ///< orbit colour 1..5, 0 = off
-    qint32 g_OrbitDuennJa = 0;       ///< 0 thick, 1 thin, 20 thick all, 21 thin all, 200/201 delete
+    qint32 g_OrbitJa = 0;            ///< an Orbitfarbe
+    qint32 g_OrbitDuennJa = 0;       ///< an Orbitdarstellung
     qint32 g_maxOrbitIterat = 0;     ///< most orbit points recorded
     qint32 g_OrbitMP = 0;            ///< 1 = orbit starts at the picture centre
     qint32 g_OrbitAbIterAn = 0;      ///< the orbit is recorded after this iteration

@@ -6,9 +6,6 @@
 
 namespace {
 
-/// What a palette operation leaves in g_RechnenJa: the stored picture is coloured anew.
-constexpr qint32 NurAussehen = 0;
-
 /// First colour table of each palette, and the last table of all.
 constexpr qint32 SpektralAb = 0, DreifarbenAb = 12, SechsfarbenAb = 24, FestAb = 36;
 constexpr qint32 LetzteTabelle = 47;
@@ -47,14 +44,14 @@ void Mandelbrot::Farbtabelle3Farben() {
     waehleBereich(*this, DreifarbenAb, SechsfarbenAb);
     wahlPalette48 = 1;
     fillPalette48(1, 0, 0, 0, 0, 0, 0);
-    g_RechnenJa = NurAussehen;
+    g_RechnenJa = NurFaerben;
 }
 
 void Mandelbrot::Farbtabelle6Farben() {
     waehleBereich(*this, SechsfarbenAb, FestAb);
     wahlPalette48 = 2;
     fillPalette48(2, 0, 0, 0, 0, 0, 0);
-    g_RechnenJa = NurAussehen;
+    g_RechnenJa = NurFaerben;
 }
 
 void Mandelbrot::FarbtabelleWaveLaden() {
@@ -64,14 +61,14 @@ void Mandelbrot::FarbtabelleWaveLaden() {
 
 void Mandelbrot::FarbtabelleWaveAn() {
     waehleSpektral(*this);
-    g_RechnenJa = NurAussehen;
+    g_RechnenJa = NurFaerben;
 }
 
 // Leaves the request alone, unlike its siblings; meant.
 void Mandelbrot::TabelleArray() { waehle(*this, FestAb); }
 
 void Mandelbrot::color_OffsetPlusM(int d) {
-    g_RechnenJa = NurAussehen;
+    g_RechnenJa = NurFaerben;
     // One turn at most, and an offset equal to the palette's size stays: the lookup reduces it.
     qint64 versatz = qint64{color_Offset} + d;
     if (versatz > g_Max_rgbFarben) {
@@ -85,7 +82,7 @@ void Mandelbrot::color_OffsetPlusM(int d) {
 }
 
 void Mandelbrot::color_OffsetSlider(int v) {
-    g_RechnenJa = NurAussehen;
+    g_RechnenJa = NurFaerben;
     color_Offset = v;
 }
 
@@ -93,5 +90,5 @@ void Mandelbrot::zahl_farbtabPlusM(int d) {
     const qint64 summe = qint64{zahl_farbtab} + d;
     const qint64 rundum = summe < SpektralAb ? LetzteTabelle : summe;
     waehle(*this, rundum > LetzteTabelle ? SpektralAb : static_cast<qint32>(rundum));
-    g_RechnenJa = NurAussehen;
+    g_RechnenJa = NurFaerben;
 }

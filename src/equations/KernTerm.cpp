@@ -1,4 +1,5 @@
 #include "equations/FormelnKomplex.h"
+#include "equations/Gleichungen.h"
 #include "equations/Kernlauf.h"
 #include "Mandelbrot.h"
 
@@ -51,7 +52,7 @@ double Mandelbrot::IterateZmalZS_Complex_plusC(double xqr, double yqr, double Cx
 }
 
 double Mandelbrot::IterateVierpol_Complex(double xqr, double yqr, double Cxqr, double Cyqr) const {
-    const bool auge = wahl_Gleichung % 100 > 10;
+    const bool auge = familie(wahl_Gleichung) > 10;
     const Term term = termAus(auge ? PolAugenTerme : PolTerme, wahl_Gleichung);
     const qint64 n = exponentAus(*this, term);
     const double g = g_Genauigkeit / 10000.0;

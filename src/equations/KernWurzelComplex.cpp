@@ -1,7 +1,8 @@
 #include "equations/FormelnNewton.h"
+#include "equations/Gleichungen.h"
 #include "equations/Kernlauf.h"
-
 #include "Mandelbrot.h"
+
 #include <algorithm>
 
 namespace {
@@ -68,7 +69,7 @@ constexpr std::array Zeilen = {zeile<109>(3.0),      zeile<209>(3.0, 3.0), zeile
 } // namespace
 
 double Mandelbrot::IterateWurzel_Complex(double xqr, double yqr, double Cxqr, double Cyqr) const {
-    const bool einswurzel = wahl_Gleichung % 100 == 9;
+    const bool einswurzel = familie(wahl_Gleichung) == 9;
     const Komplex pixel(abgerueckt(xqr, Abrueckung), abgerueckt(yqr, Abrueckung));
     Komplex c(abgerueckt(Cxqr, Abrueckung), abgerueckt(Cyqr, Abrueckung));
 

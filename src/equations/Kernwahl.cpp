@@ -1,5 +1,7 @@
 #include "equations/Kernwahl.h"
 
+#include "equations/Gleichungen.h"
+
 namespace {
 
 /// Index: the numbers 1 to 10.
@@ -40,6 +42,6 @@ Kern kernFuer(qint32 wahl_Gleichung) {
     if (wahl_Gleichung < 0) {
         return nullptr;
     }
-    return wahl_Gleichung > 99 ? suchen(KomplexeKerne, wahl_Gleichung % 100)
+    return wahl_Gleichung > 99 ? suchen(KomplexeKerne, familie(wahl_Gleichung))
                                : suchen(ReelleKerne, wahl_Gleichung);
 }

@@ -169,12 +169,12 @@ void schalterGrundstellung(Mandelbrot& m) {
     m.g_NullkreuzJa = 0;
     m.g_GitterJa = 0;
     m.g_GenauJa = 0;
-    m.g_RechnenJa = 1;
+    m.g_RechnenJa = Rechnen;
     m.g_BildLoeschen = 0;
     m.g_linienLoeschenJa = 0;
-    m.g_OrbitJa = 0;
-    m.g_OrbitDuennJa = 0;
-    m.g_maxOrbitIterat = 256;
+    m.g_OrbitJa = OrbitAus;
+    m.g_OrbitDuennJa = LetzterDick;
+    m.g_maxOrbitIterat = OrbitLaengeVoll;
     m.Orbitmodus = 0;
     m.g_OrbitMP = 0;
     m.g_OrbitAbIterAn = 0;

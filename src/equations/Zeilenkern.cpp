@@ -2,6 +2,7 @@
 
 #include "equations/Abbruch.h"
 #include "equations/FormelnKomplex.h"
+#include "equations/Gleichungen.h"
 #include "equations/Kernwahl.h"
 #include "equations/Rechenweise.h"
 #include "equations/Reihe.h"
@@ -89,11 +90,11 @@ Zuordnung zuordnen(const Mandelbrot& m) {
     default:
         break;
     }
-    const qint32 familie = nummer > 99 ? nummer % 100 : 0;
-    if (familie < 1 || familie > 4) {
+    const qint32 endzahl = nummer > 99 ? familie(nummer) : 0;
+    if (endzahl < 1 || endzahl > 4) {
         return {};
     }
-    const Term term = termAus(familie <= 2 ? PotenzTerme : AugenTerme, nummer);
+    const Term term = termAus(endzahl <= 2 ? PotenzTerme : AugenTerme, nummer);
     const auto* const zeile = std::find_if(Termformeln.begin(), Termformeln.end(),
                                            [&](const auto& z) { return z.first == term; });
     if (zeile == Termformeln.end()) {

@@ -84,7 +84,6 @@ static_assert(lueckenlos() && tabelle[AnzahlGeschrieben].offset == 200);
 
 constexpr int VersionSchreiben = 22;
 constexpr int VersionLesen = 12; // older than the writer's on purpose: same bytes
-constexpr qint32 MitOrbit = 2;
 
 template <class Box>
 auto lesenAus(const UI& fenster, Box* UI::*feld) {
@@ -137,7 +136,7 @@ void bilddatenLesen(QIODevice& quelle, UI& fenster) {
     strom.setVersion(VersionLesen);
     const std::span<const Eintrag> eintraege(tabelle);
     lesen(strom, fenster, eintraege.first(AnzahlGanze));
-    fenster.Menge->g_RechnenJa = MitOrbit;
+    fenster.Menge->g_RechnenJa = RechnenMitOrbit;
     lesen(strom, fenster, eintraege.subspan(AnzahlGanze));
 }
 

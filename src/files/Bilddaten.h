@@ -10,7 +10,7 @@
 /// The 200 bytes of a file: panel values as the panel shows them, the others from the model.
 [[nodiscard]] QByteArray bilddatenSchreiben(const UI& fenster);
 
-/// Reads a file into panel and model and requests a computation with the orbit (g_RechnenJa 2).
+/// Reads a file into panel and model and requests a computation with the orbit (RechnenMitOrbit).
 /// The model takes over the panel's part when the panel is read next. Any content is accepted:
 /// what cannot be read becomes 0, panel values are bounded by their boxes, fields of the model take
 /// whatever the file holds. Two further reals, for tolerance and grid spacing, are read after the

@@ -1,4 +1,5 @@
 #include "colours/Palettenwahl.h"
+#include "equations/Gleichungen.h"
 #include "Mandelbrot.h"
 #include "model/Bildlauf.h"
 #include "model/Einfaerbung.h"
@@ -28,7 +29,7 @@ void bildflaecheAnpassen(Mandelbrot& m, const Bildlauf& lauf) {
 void gleichungstyp(Mandelbrot& m, Bildlauf& lauf) {
     m.g_JuliaJa = m.wahl_Gleichung % 2 == 0 ? 1 : 0;
     lauf.Juliamenge = static_cast<qint16>(m.g_JuliaJa);
-    lauf.wahlGlgEndzahl = m.wahl_Gleichung % 100;
+    lauf.wahlGlgEndzahl = familie(m.wahl_Gleichung);
     m.EquationName();
     const bool exponentenfamilie = lauf.wahlGlgEndzahl == 7 || lauf.wahlGlgEndzahl == 8;
     if (m.wahl_Gleichung > 500 && m.g_kPotenz == 0 && !exponentenfamilie) {
@@ -38,18 +39,19 @@ void gleichungstyp(Mandelbrot& m, Bildlauf& lauf) {
     (2 * qint64{m.kPotHalbe} >= m.g_kPotenz ? m.kPotHg : m.kPotHu) = m.kPotHalbe;
 }
 
-/// Signature and record of this picture; settles a request of 0 or 1 by comparing with the stored
-/// picture.
+/// Signature and record of this picture; settles a request up to Rechnen by comparing with the
+/// stored picture.
 void anforderungBestimmen(Mandelbrot& m, Bildlauf& lauf) {
     const Signatur neu = signaturBilden(m, lauf.SpaltenKLGross, lauf.ZeilenKLGross);
     const Signatur& gespeichert = lauf.signatur(m);
     m.DatenSichern();
-    lauf.allePixel = m.g_OrbitJa < 1 || m.g_RechnenJa >= 2 || !neu.gleichBisAufOrbit(gespeichert);
-    if (m.g_RechnenJa <= 1) {
+    lauf.allePixel =
+        m.g_OrbitJa < 1 || m.g_RechnenJa >= RechnenMitOrbit || !neu.gleichBisAufOrbit(gespeichert);
+    if (m.g_RechnenJa <= Rechnen) {
         // The sum is compared as well: setting it to 0 demands a new computation.
         const bool summeGleich = m.bilddatenSumme == lauf.summe(m) ||
                                  (std::isnan(m.bilddatenSumme) && std::isnan(lauf.summe(m)));
-        m.g_RechnenJa = summeGleich && neu.gleich(gespeichert) ? 0 : 1;
+        m.g_RechnenJa = summeGleich && neu.gleich(gespeichert) ? NurFaerben : Rechnen;
         lauf.summe(m) = m.bilddatenSumme;
     }
     lauf.LinienRechnen =
@@ -62,7 +64,7 @@ void loeschenVorbereiten(Mandelbrot& m, Bildlauf& lauf) {
     if (m.g_BildLoeschen != 1 && m.g_BildLoeschen != 2) {
         return;
     }
-    m.g_RechnenJa = 1;
+    m.g_RechnenJa = Rechnen;
     lauf.allePixel = true;
     m.privateIterat = m.g_BildLoeschen == 1 ? 0 : m.Max_Iterationen;
     m.wahl_Gleichung = 0;
@@ -73,14 +75,14 @@ void nachsorge(Mandelbrot& m, const Bildlauf& lauf) {
         m.wahl_Gleichung = lauf.wahlrett;
         m.g_BildLoeschen = 0;
     }
-    if (m.g_RechnenJa >= 1) {
+    if (m.g_RechnenJa >= Rechnen) {
         // Kernels repair lastingly and the placement changes the mode: without new sums the next
         // paint would compute the same picture again.
         lauf.signatur(m) = signaturBilden(m, lauf.SpaltenKLGross, lauf.ZeilenKLGross);
         lauf.summe(m) = m.bilddatenSumme;
     }
-    if (m.g_RechnenJa == 2) {
-        m.g_RechnenJa = 1;
+    if (m.g_RechnenJa == RechnenMitOrbit) {
+        m.g_RechnenJa = Rechnen;
     }
 }
 
@@ -88,7 +90,7 @@ void nachsorge(Mandelbrot& m, const Bildlauf& lauf) {
 
 void Mandelbrot::Berechnung(QPainter* Paint) {
     felderRichten(*this);
-    if (g_OrbitJa > 0 && g_RechnenJa == 3 && g_OrbitMP == 0) {
+    if (g_OrbitJa > 0 && g_RechnenJa == VorschauRechnen && g_OrbitMP == 0) {
         Q_EMIT OrbitOffSignal();
         return;
     }
@@ -98,8 +100,8 @@ void Mandelbrot::Berechnung(QPainter* Paint) {
     if (!bildgroesse(*this, lauf)) {
         return;
     }
-    if (g_VorschauAusJa == 1 && g_RechnenJa == 3) {
-        g_RechnenJa = 1;
+    if (g_VorschauAusJa == 1 && g_RechnenJa == VorschauRechnen) {
+        g_RechnenJa = Rechnen;
     }
     lauf.Matrix = zahl_Matrix >= MatrixEin;
     abmessungen(*this, lauf);
@@ -112,7 +114,7 @@ void Mandelbrot::Berechnung(QPainter* Paint) {
     gleichungstyp(*this, lauf);
     anforderungBestimmen(*this, lauf);
     loeschenVorbereiten(*this, lauf);
-    if (g_RechnenJa >= 1 || lauf.LinienRechnen) {
+    if (g_RechnenJa >= Rechnen || lauf.LinienRechnen) {
         bildPlatzieren(*this, lauf);
         pixelPass(*this, lauf);
     }

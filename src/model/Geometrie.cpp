@@ -11,7 +11,8 @@ constexpr qint32 StandardVorschau = 100; ///< pixels
 /// The picture that this paint will show is a preview. The matrix view always fills its cells.
 bool zeigtVorschau(const Mandelbrot& m, const Bildlauf& lauf) {
     return !lauf.Matrix &&
-           istVorschau(modusNachAnforderung(m.g_halbesBild, m.g_RechnenJa == 3 ? 3 : 0));
+           istVorschau(modusNachAnforderung(
+               m.g_halbesBild, m.g_RechnenJa == VorschauRechnen ? VorschauRechnen : NurFaerben));
 }
 
 } // namespace

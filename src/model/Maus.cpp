@@ -62,7 +62,7 @@ void zoomen(Mandelbrot& m, const Klick& k) {
         m.CJ_x = R;
         m.CJ_y = I;
     }
-    m.g_RechnenJa = 1;
+    m.g_RechnenJa = Rechnen;
 }
 
 /// Band 1 to 4 of a position, 0 exactly on a border.
@@ -83,7 +83,7 @@ void zelleWaehlen(Mandelbrot& m, const Klick& k) {
     const int spalte = band(k.x, trunc32(k.Spalten / m.TeilerColorbild));
     const int zeile = band(k.y, trunc32(k.Zeilen / m.TeilerColorbild));
     m.zahl_Matrix = spalte > 0 && zeile > 0 ? 10 * zeile + spalte : 21;
-    m.g_RechnenJa = m.g_SummeGross == m.g_SummeViertel ? 0 : 1;
+    m.g_RechnenJa = m.g_SummeGross == m.g_SummeViertel ? NurFaerben : Rechnen;
 }
 
 } // namespace

@@ -4,9 +4,6 @@
 
 namespace {
 
-/// What an operation leaves in g_RechnenJa.
-enum Anforderung : qint32 { NurAussehen = 0, ParameterNeu = 3 };
-
 constexpr int VarianteDivMax = 18;
 constexpr int VarianteKonvMax = 12;
 
@@ -19,6 +16,16 @@ qint32 rundum(qint32 wert, int schritt, qint32 hoechster) {
     return summe < 0 ? hoechster : static_cast<qint32>(summe);
 }
 
+/// Tells the user that a zoom factor of exactly 1 changes no width.
+bool zoomIstEins(Mandelbrot& m) {
+    if (m.click2_Zoom != 1.0) {
+        return false;
+    }
+    QMessageBox::about(&m, Mandelbrot::tr("Nachricht/Hinweis:"),
+                       Mandelbrot::tr("Achtung ZOOM = 1 "));
+    return true;
+}
+
 } // namespace
 
 void Mandelbrot::ZoomGleich(double d) { click2_Zoom = d; }
@@ -27,27 +34,27 @@ void Mandelbrot::ZoomMalD(double d) { click2_Zoom = click2_Zoom * d; }
 
 void Mandelbrot::itFactorMalD(double d) {
     it_Factor = it_Factor * d;
-    g_RechnenJa = NurAussehen;
+    g_RechnenJa = NurFaerben;
 }
 
 void Mandelbrot::divFactorMalD(double d) {
     div_Factor = div_Factor * d;
-    g_RechnenJa = NurAussehen;
+    g_RechnenJa = NurFaerben;
 }
 
 void Mandelbrot::konvFactorMalD(double d) {
     konv_Factor = konv_Factor * d;
-    g_RechnenJa = NurAussehen;
+    g_RechnenJa = NurFaerben;
 }
 
 void Mandelbrot::rechen_VarianteDivPlusM(int m) {
     rechen_VarianteDiv = rundum(rechen_VarianteDiv, m, VarianteDivMax);
-    g_RechnenJa = NurAussehen;
+    g_RechnenJa = NurFaerben;
 }
 
 void Mandelbrot::rechen_VarianteKonvPlusM(int m) {
     rechen_VarianteKonv = rundum(rechen_VarianteKonv, m, VarianteKonvMax);
-    g_RechnenJa = NurAussehen;
+    g_RechnenJa = NurFaerben;
 }
 
 void Mandelbrot::MatrixOn() { zahl_Matrix = MatrixEin; }
@@ -84,29 +91,27 @@ void Mandelbrot::BildbreiteMalD(double d) {
     Br_y = g_Bildverhaeltnis * (Br_x * d);
     Br_x = Br_x * d;
     BildbreiteNeueEckpunkte();
-    g_RechnenJa = ParameterNeu;
+    g_RechnenJa = VorschauRechnen;
 }
 
 void Mandelbrot::BildbreiteMalZoom() {
-    if (click2_Zoom == 1.0) {
-        QMessageBox::about(this, tr("Nachricht/Hinweis:"), tr("Achtung ZOOM = 1 "));
+    if (zoomIstEins(*this)) {
         return;
     }
     Br_y = g_Bildverhaeltnis * (click2_Zoom * Br_x);
     Br_x = Br_x * click2_Zoom;
     BildbreiteNeueEckpunkte();
-    g_RechnenJa = ParameterNeu;
+    g_RechnenJa = VorschauRechnen;
 }
 
 void Mandelbrot::BildbreiteDurchZoom() {
-    if (click2_Zoom == 1.0) {
-        QMessageBox::about(this, tr("Nachricht/Hinweis:"), tr("Achtung ZOOM = 1 "));
+    if (zoomIstEins(*this)) {
         return;
     }
     Br_y = g_Bildverhaeltnis * Br_x / click2_Zoom;
     Br_x = Br_x / click2_Zoom;
     BildbreiteNeueEckpunkte();
-    g_RechnenJa = ParameterNeu;
+    g_RechnenJa = VorschauRechnen;
 }
 
 void Mandelbrot::MP_xyGleich0(int k) {
@@ -116,27 +121,27 @@ void Mandelbrot::MP_xyGleich0(int k) {
     if (k == 2 || k == 3) {
         MP_y = 0.0;
     }
-    g_RechnenJa = ParameterNeu;
+    g_RechnenJa = VorschauRechnen;
 }
 
 void Mandelbrot::GenauigkeitGleichZoom() {
     g_Genauigkeit = click2_Zoom;
-    g_RechnenJa = NurAussehen;
+    g_RechnenJa = NurFaerben;
 }
 
 void Mandelbrot::kPotenzGleichZoom() {
     g_kPotenz = truncSat(click2_Zoom);
-    g_RechnenJa = NurAussehen;
+    g_RechnenJa = NurFaerben;
 }
 
 void Mandelbrot::ZykluszahlGleichZoom() {
     g_zycmax = std::min(truncSat(click2_Zoom), qint32{ZyklusMax});
-    g_RechnenJa = NurAussehen;
+    g_RechnenJa = NurFaerben;
 }
 
 void Mandelbrot::wahl_GleichungNew(int n) {
     wahl_Gleichung = n;
-    g_RechnenJa = ParameterNeu;
+    g_RechnenJa = VorschauRechnen;
 }
 
 void Mandelbrot::OrbitAbIterAnGleichZoom() {
@@ -162,27 +167,27 @@ void Mandelbrot::VorschauXYPixelNeu(int k) {
         g_PixVorschauX = format.x;
         g_PixVorschauY = format.y;
     }
-    g_RechnenJa = NurAussehen;
+    g_RechnenJa = NurFaerben;
 }
 
 void Mandelbrot::Max_IterationenMalD(double d) {
     Max_Iterationen = truncSat(Max_Iterationen * d);
-    g_RechnenJa = ParameterNeu;
+    g_RechnenJa = VorschauRechnen;
 }
 
 void Mandelbrot::glg_AbbruchPlusM(int m) {
     glg_Abbruch = rundum(glg_Abbruch, m, g_Max_glg_Abbruch);
-    g_RechnenJa = ParameterNeu;
+    g_RechnenJa = VorschauRechnen;
 }
 
 void Mandelbrot::glg_AbbruchNew(int n) {
     glg_Abbruch = n;
-    g_RechnenJa = ParameterNeu;
+    g_RechnenJa = VorschauRechnen;
 }
 
 void Mandelbrot::wert_AbbruchMalD(double d) {
     wert_Abbruch = wert_Abbruch * d;
-    g_RechnenJa = ParameterNeu;
+    g_RechnenJa = VorschauRechnen;
 }
 
 void Mandelbrot::ZwillingAn() {
@@ -192,10 +197,10 @@ void Mandelbrot::ZwillingAn() {
     if (Koppl_y == 0.0) {
         Koppl_y = click2_Zoom;
     }
-    g_RechnenJa = ParameterNeu;
+    g_RechnenJa = VorschauRechnen;
 }
 
-// The coupling operations leave request 0 although they change the picture: the signature holds
+// The coupling operations leave NurFaerben although they change the picture: the signature holds
 // the factors, so the driver computes anew.
 
 namespace {
@@ -208,30 +213,30 @@ void malZoom(double& koppl, double zoom) {
 
 void Mandelbrot::Koppl_xMalZoom() {
     malZoom(Koppl_x, click2_Zoom);
-    g_RechnenJa = NurAussehen;
+    g_RechnenJa = NurFaerben;
 }
 
 void Mandelbrot::Koppl_yMalZoom() {
     malZoom(Koppl_y, click2_Zoom);
-    g_RechnenJa = NurAussehen;
+    g_RechnenJa = NurFaerben;
 }
 
 void Mandelbrot::Koppl_xyGleichZoom() {
     if (std::abs(click2_Zoom) > 0.0) {
         Koppl_x = Koppl_y = click2_Zoom;
     }
-    g_RechnenJa = NurAussehen;
+    g_RechnenJa = NurFaerben;
 }
 
 void Mandelbrot::Koppl_yGleichx() {
     Koppl_y = Koppl_x;
-    g_RechnenJa = NurAussehen;
+    g_RechnenJa = NurFaerben;
 }
 
 void Mandelbrot::Koppl_xyMalD(double d) {
     Koppl_x = Koppl_x * d;
     Koppl_y = Koppl_y * d;
-    g_RechnenJa = NurAussehen;
+    g_RechnenJa = NurFaerben;
 }
 
 void Mandelbrot::GitterNullOn() {
@@ -239,7 +244,7 @@ void Mandelbrot::GitterNullOn() {
         return;
     }
     g_Gitterabstand = click2_Zoom;
-    g_RechnenJa = NurAussehen;
+    g_RechnenJa = NurFaerben;
 }
 
 void Mandelbrot::GitterMitteOn() { GitterNullOn(); }

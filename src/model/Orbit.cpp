@@ -8,10 +8,7 @@
 
 namespace {
 
-constexpr int ZeichenMax = 256;        ///< most points that are drawn
 constexpr double PfadGrenze = 1000000; ///< pixels; beyond it paths lose precision
-
-enum OrbitArt : qint32 { Dick = 0, Duenn = 1, AlleDick = 20, AlleDuenn = 21, DickLeeren = 200 };
 
 struct Stifte {
     QColor haupt, c, d, e;
@@ -23,13 +20,13 @@ Stifte stifteFuer(qint32 farbe) {
     const QColor grau(128, 128, 128);
     const QColor rot(255, 0, 0);
     switch (farbe) {
-    case 2:
+    case OrbitSchwarz:
         return {schwarz, schwarz, schwarz, schwarz};
-    case 3:
+    case OrbitGrau:
         return {grau, grau, grau, grau};
-    case 4:
+    case OrbitRot:
         return {rot, rot, rot, rot};
-    case 5:
+    case OrbitBunt:
         return {QColor(255, 255, 0), rot, QColor(0, 255, 0), QColor(80, 80, 255)};
     default:
         return {weiss, weiss, weiss, weiss};
@@ -64,11 +61,11 @@ struct Abbildung {
     }
 };
 
-/// Recorded points up to the end mark, at most ZeichenMax.
+/// Recorded points up to the end mark, at most OrbitLaengeVoll.
 std::size_t punktzahl(const Mandelbrot& m) {
     std::size_t n = 0;
-    while (n < ZeichenMax && !(m.OrbitX[n + 1] == Mandelbrot::OrbitEnde &&
-                               m.OrbitY[n + 1] == Mandelbrot::OrbitEnde)) {
+    while (n < OrbitLaengeVoll && !(m.OrbitX[n + 1] == Mandelbrot::OrbitEnde &&
+                                    m.OrbitY[n + 1] == Mandelbrot::OrbitEnde)) {
         ++n;
     }
     return n;
@@ -98,14 +95,14 @@ void anhaengen(QPainterPath& pfad, const Mandelbrot& m, const Abbildung& abb, st
 }
 
 void leerenWennVerlangt(Mandelbrot& m) {
-    if (m.g_OrbitDuennJa < DickLeeren) {
+    if (m.g_OrbitDuennJa < LoeschenDick) {
         return;
     }
     for (QPainterPath* pfad :
          {&m.polygonPathM1, &m.polygonPathM2, &m.polygonPathM3, &m.polygonPathM4}) {
         *pfad = QPainterPath();
     }
-    m.g_OrbitDuennJa = m.g_OrbitDuennJa == DickLeeren ? Dick : Duenn;
+    m.g_OrbitDuennJa = m.g_OrbitDuennJa == LoeschenDick ? LetzterDick : LetzterDuenn;
     m.letzterOrbit.reset();
 }
 
@@ -133,7 +130,7 @@ void pfadeMalen(const Mandelbrot& m, const Abbildung& abb, std::size_t n, QPaint
     } else if (m.g_OrbitDuennJa == AlleDick || m.g_OrbitDuennJa == AlleDuenn) {
         malen(maler, m.polygonPathM1, stifte.haupt);
     }
-    if (m.g_OrbitDuennJa == Dick) {
+    if (m.g_OrbitDuennJa == LetzterDick) {
         malen(maler, dieserOrbit(1, 1), stifte.c);
         malen(maler, dieserOrbit(1, 0), stifte.d);
         malen(maler, dieserOrbit(0, 1), stifte.e);

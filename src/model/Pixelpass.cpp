@@ -44,7 +44,7 @@ class Pass {
             startpixelRechnen(zeile, y, start);
             stueckRechnen(zeile, y, start + 1, lauf.Spalten);
         }
-        if (m.g_RechnenJa >= 1) {
+        if (m.g_RechnenJa >= Rechnen) {
             rahmenSetzen(zeile);
         }
     }
@@ -52,7 +52,7 @@ class Pass {
   private:
     /// Columns [von, bis) without the orbit's start pixel.
     void stueckRechnen(qint32 zeile, double y, qint32 von, qint32 bis) {
-        if (m.g_RechnenJa < 1 || !lauf.allePixel || von >= bis) {
+        if (m.g_RechnenJa < Rechnen || !lauf.allePixel || von >= bis) {
             return;
         }
         const auto ab = static_cast<std::size_t>(von);
@@ -85,7 +85,7 @@ class Pass {
             betrQ = (m.*kern)(w.wertx0, w.werty0, w.wertCx, w.wertCy);
         }
         m.Orbitmodus = 1;
-        if (m.g_RechnenJa >= 1) {
+        if (m.g_RechnenJa >= Rechnen) {
             lauf.werte(m, zeile)[index] = betrQ;
             lauf.anzahlen(m, zeile)[index] = m.privateIterat;
         }

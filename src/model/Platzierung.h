@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QtGlobal>
+#include "Schalter.h"
 
 /// Sizes that a placement is made of, pixels: the whole picture, its half, the preview.
 struct Bildmasse {
@@ -20,15 +20,15 @@ struct Rechteck {
 [[nodiscard]] constexpr bool istVorschau(qint32 halbesBild) { return halbesBild > 9; }
 
 /// Picture mode after the request is taken up: a computation turns a preview into its picture,
-/// request 3 turns a full or quarter picture into the preview at the same place.
+/// VorschauRechnen turns a full or quarter picture into the preview at the same place.
 [[nodiscard]] constexpr qint32 modusNachAnforderung(qint32 halbesBild, qint32 rechnenJa) {
     if (halbesBild > 99) {
-        return rechnenJa == 1 ? 0 : halbesBild;
+        return rechnenJa == Rechnen ? 0 : halbesBild;
     }
-    if (rechnenJa == 1 && istVorschau(halbesBild)) {
+    if (rechnenJa == Rechnen && istVorschau(halbesBild)) {
         return halbesBild % 10;
     }
-    return rechnenJa == 3 && halbesBild < 5 ? halbesBild + 10 : halbesBild;
+    return rechnenJa == VorschauRechnen && halbesBild < 5 ? halbesBild + 10 : halbesBild;
 }
 
 /// Where the picture of a mode is placed, cut to the whole picture: full 0, quarters 1 to 4,

@@ -141,15 +141,15 @@ void UI::WerteColorAktualisierenSlot() { zeigen(*this, Farbwerte); }
 
 void UI::NeueBerechnungSlot() {
     // Nothing else here touches the request: an unchanged picture is only coloured anew.
-    if (Menge->g_halbesBild > AnzahlViertel && Menge->g_RechnenJa != befehle::RechnenOderOrbit) {
+    if (Menge->g_halbesBild > AnzahlViertel && Menge->g_RechnenJa != RechnenMitOrbit) {
         Menge->g_halbesBild %= 10;
-        Menge->g_RechnenJa = befehle::Rechnen;
+        Menge->g_RechnenJa = Rechnen;
     }
     FeldLesen();
 }
 
 void UI::VorschauSlot() {
-    Menge->g_RechnenJa = befehle::VorschauBild;
+    Menge->g_RechnenJa = VorschauRechnen;
     FeldLesen();
 }
 

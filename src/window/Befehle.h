@@ -8,11 +8,6 @@
 
 namespace befehle {
 
-/// What the next paint has to do, the values of g_RechnenJa.
-enum Anforderung : qint32 { NurFarben = 0, Rechnen = 1, RechnenOderOrbit = 2, VorschauBild = 3 };
-
-constexpr qint32 OrbitLaengeVoll = 256; ///< most orbit points shown
-
 // Echoes: write the model's value into the widget that shows it.
 void echoZoom(UI& fenster);
 void echoGleichung(UI& fenster);

@@ -12,9 +12,9 @@ void abbruch(UI& f, int n) {
     f.zeichnenUndTitel();
 }
 
-/// The end of all precision slots: request 3, like every change of the picture.
+/// The end of all precision slots: a preview, like after every change of the picture.
 void genauigkeitGeaendert(UI& f) {
-    f.Menge->g_RechnenJa = VorschauBild;
+    f.Menge->g_RechnenJa = VorschauRechnen;
     f.zeichnenUndTitel();
 }
 

@@ -25,7 +25,7 @@ void viertel(UI& f, qint32 nummer, Anforderung anforderung) {
 
 void vorschau(UI& f, qint32 bild) {
     f.Menge->g_halbesBild = bild;
-    f.Menge->g_RechnenJa = VorschauBild;
+    f.Menge->g_RechnenJa = VorschauRechnen;
     f.zeichnenUndTitel();
 }
 
@@ -63,7 +63,7 @@ void fenstergroesse(UI& f, int breite, int hoehe) {
 } // namespace
 
 void UI::NeuRechnenJaSlot() {
-    Menge->g_RechnenJa = RechnenOderOrbit;
+    Menge->g_RechnenJa = RechnenMitOrbit;
     Menge->g_SummeGross = 0.0;
     Menge->g_SummeViertel = 0.0;
     Menge->g_BildLoeschen = 0;
@@ -88,7 +88,7 @@ void UI::PixelXYDurch2Pos1Slot() {
         Menge->OPx /= 2;
         Menge->OPy /= 2;
     }
-    viertel(*this, 1, RechnenOderOrbit);
+    viertel(*this, 1, RechnenMitOrbit);
 }
 void UI::PixelXYDurch2Pos2Slot() { viertel(*this, 2, Rechnen); }
 void UI::PixelXYDurch2Pos3Slot() { viertel(*this, 3, Rechnen); }
@@ -109,9 +109,9 @@ void UI::VorschauAnSlot() { vorschauAus(*this, 0); }
 void UI::BildSchwarzSlot() { bildLoeschen(*this, 1); }
 void UI::BildWeissSlot() { bildLoeschen(*this, 2); }
 
-void UI::OberesHalbbildEinSlot() { halbbild(*this, 1, RechnenOderOrbit); }
-void UI::UnteresHalbbildEinSlot() { halbbild(*this, 2, RechnenOderOrbit); }
-void UI::OuU_HalbbildAusSlot() { halbbild(*this, 0, VorschauBild); }
+void UI::OberesHalbbildEinSlot() { halbbild(*this, 1, RechnenMitOrbit); }
+void UI::UnteresHalbbildEinSlot() { halbbild(*this, 2, RechnenMitOrbit); }
+void UI::OuU_HalbbildAusSlot() { halbbild(*this, 0, VorschauRechnen); }
 
 void UI::VorschauXYPixelNeu0Slot() { vorschauPixel(*this, 0, tr("<b>100 Pixel</b>")); }
 void UI::VorschauXYPixelNeu1Slot() { vorschauPixel(*this, 1, tr("<b>New Size</b>")); }

@@ -18,11 +18,9 @@ void linie(UI& f, qint32 Mandelbrot::*schalter, qint32 wert, qint32 loeschen,
 } // namespace
 
 void UI::MittelkreuzOnSlot() { linie(*this, &Mandelbrot::g_MittelkreuzJa, 1, 0, Rechnen); }
-void UI::MittelkreuzOffSlot() {
-    linie(*this, &Mandelbrot::g_MittelkreuzJa, 0, 1, RechnenOderOrbit);
-}
+void UI::MittelkreuzOffSlot() { linie(*this, &Mandelbrot::g_MittelkreuzJa, 0, 1, RechnenMitOrbit); }
 void UI::NullkreuzOnSlot() { linie(*this, &Mandelbrot::g_NullkreuzJa, 1, 0, Rechnen); }
-void UI::NullkreuzOffSlot() { linie(*this, &Mandelbrot::g_NullkreuzJa, 0, 2, RechnenOderOrbit); }
+void UI::NullkreuzOffSlot() { linie(*this, &Mandelbrot::g_NullkreuzJa, 0, 2, RechnenMitOrbit); }
 void UI::GitterNullOnSlot() {
     Menge->GitterNullOn();
     linie(*this, &Mandelbrot::g_GitterJa, 1, 0, Rechnen);
@@ -33,12 +31,12 @@ void UI::GitterMitteOnSlot() {
 }
 void UI::GitterOffSlot() {
     Menge->g_Gitterabstand = 0.0;
-    linie(*this, &Mandelbrot::g_GitterJa, 0, 3, RechnenOderOrbit);
+    linie(*this, &Mandelbrot::g_GitterJa, 0, 3, RechnenMitOrbit);
 }
 
 void UI::AlleGitterOffSlot() {
-    Menge->g_OrbitJa = 0;
-    Menge->g_OrbitDuennJa = 0;
+    Menge->g_OrbitJa = OrbitAus;
+    Menge->g_OrbitDuennJa = LetzterDick;
     Menge->g_MittelkreuzJa = 0;
     Menge->g_NullkreuzJa = 0;
     Menge->g_Gitterabstand = 0.0;

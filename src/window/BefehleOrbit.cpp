@@ -8,27 +8,14 @@ using namespace befehle;
 
 namespace {
 
-/// The values of g_OrbitDuennJa: thin or thick, the last orbit or all of them.
-enum Darstellung : qint32 {
-    DickLetzter = 0,
-    DuennLetzter = 1,
-    DickAlle = 20,
-    DuennAlle = 21,
-    DickLoeschen = 200,
-    DuennLoeschen = 201
-};
-
-/// The values of g_OrbitJa.
-enum Orbitfarbe : qint32 { Aus = 0, Weiss = 1, Schwarz = 2, Grau = 3, Rot = 4, Bunt = 5 };
-
 void zeigeDuenn(UI& f) {
     switch (f.Menge->g_OrbitDuennJa) {
-    case DickLetzter:
-    case DickAlle:
+    case LetzterDick:
+    case AlleDick:
         f.infoLabel33->setText(UI::tr("<b>Orbit dick</b>"));
         break;
-    case DuennLetzter:
-    case DuennAlle:
+    case LetzterDuenn:
+    case AlleDuenn:
         f.infoLabel33->setText(UI::tr("<b>Orbit dünn</b>"));
         break;
     default: // a request to delete is no way of drawing
@@ -40,14 +27,14 @@ void zeigeDuenn(UI& f) {
 /// The varied colour is refused in every preview, which is meant so.
 void orbitFarbe(UI& f, Orbitfarbe farbe) {
     Mandelbrot& m = *f.Menge;
-    const bool vorschau = m.g_RechnenJa == VorschauBild;
-    if (vorschau && (m.g_OrbitMP == 0 || farbe == Bunt)) {
+    const bool vorschau = m.g_RechnenJa == VorschauRechnen;
+    if (vorschau && (m.g_OrbitMP == 0 || farbe == OrbitBunt)) {
         QMessageBox::about(&f, UI::tr("Orbit-Modus nicht im Vorschaubild möglich!"),
                            UI::tr("Vorher Viertelbild oder Vollbild wählen für Orbit-Modus."));
         return;
     }
-    if (m.g_OrbitJa == Aus) {
-        m.g_OrbitDuennJa = DuennLetzter;
+    if (m.g_OrbitJa == OrbitAus) {
+        m.g_OrbitDuennJa = LetzterDuenn;
     }
     if (!vorschau || m.g_OrbitMP == 1) {
         m.g_OrbitJa = farbe;
@@ -67,7 +54,7 @@ void darstellung(Mandelbrot& m, std::initializer_list<std::pair<qint32, qint32>>
 }
 
 void orbitMax(UI& f, qint32 anzahl) {
-    if (f.Menge->g_OrbitJa == Aus) {
+    if (f.Menge->g_OrbitJa == OrbitAus) {
         return;
     }
     f.Menge->g_maxOrbitIterat = anzahl;
@@ -77,11 +64,11 @@ void orbitMax(UI& f, qint32 anzahl) {
 
 } // namespace
 
-void UI::OrbitWeissSlot() { orbitFarbe(*this, Weiss); }
-void UI::OrbitSchwarzSlot() { orbitFarbe(*this, Schwarz); }
-void UI::OrbitGrauSlot() { orbitFarbe(*this, Grau); }
-void UI::OrbitRotSlot() { orbitFarbe(*this, Rot); }
-void UI::OrbitBuntSlot() { orbitFarbe(*this, Bunt); }
+void UI::OrbitWeissSlot() { orbitFarbe(*this, OrbitWeiss); }
+void UI::OrbitSchwarzSlot() { orbitFarbe(*this, OrbitSchwarz); }
+void UI::OrbitGrauSlot() { orbitFarbe(*this, OrbitGrau); }
+void UI::OrbitRotSlot() { orbitFarbe(*this, OrbitRot); }
+void UI::OrbitBuntSlot() { orbitFarbe(*this, OrbitBunt); }
 
 void UI::OrbitMax256Slot() { orbitMax(*this, OrbitLaengeVoll); }
 void UI::OrbitMax120Slot() { orbitMax(*this, 120); }
@@ -91,7 +78,7 @@ void UI::OrbitMax15Slot() { orbitMax(*this, 15); }
 void UI::OrbitMax5Slot() { orbitMax(*this, 5); }
 
 void UI::OrbitMaxMinus1Slot() {
-    if (Menge->g_OrbitJa == Aus) {
+    if (Menge->g_OrbitJa == OrbitAus) {
         return;
     }
     if (Menge->g_maxOrbitIterat > std::numeric_limits<qint32>::min()) {
@@ -102,50 +89,50 @@ void UI::OrbitMaxMinus1Slot() {
 }
 
 void UI::OrbitDuennSlot() {
-    if (Menge->g_OrbitJa == Aus) {
+    if (Menge->g_OrbitJa == OrbitAus) {
         return;
     }
-    darstellung(*Menge, {{DickLetzter, DuennLetzter},
-                         {DuennLetzter, DickLetzter},
-                         {DickAlle, DuennAlle},
-                         {DuennAlle, DickAlle}});
+    darstellung(*Menge, {{LetzterDick, LetzterDuenn},
+                         {LetzterDuenn, LetzterDick},
+                         {AlleDick, AlleDuenn},
+                         {AlleDuenn, AlleDick}});
     SetNewTitle();
     zeigeDuenn(*this);
 }
 
 void UI::OrbitAlleSlot() {
-    if (Menge->g_OrbitJa == Aus) {
+    if (Menge->g_OrbitJa == OrbitAus) {
         return;
     }
-    darstellung(*Menge, {{DuennLetzter, DuennAlle}, {DickLetzter, DickAlle}});
+    darstellung(*Menge, {{LetzterDuenn, AlleDuenn}, {LetzterDick, AlleDick}});
     SetNewTitle();
     infoLabel22->setText(tr("<b>Alle Orbit</b>"));
     zeigeDuenn(*this);
 }
 
 void UI::OrbitLetzterSlot() {
-    if (Menge->g_OrbitJa == Aus) {
+    if (Menge->g_OrbitJa == OrbitAus) {
         return;
     }
-    darstellung(*Menge, {{DuennAlle, DuennLetzter}, {DickAlle, DickLetzter}});
+    darstellung(*Menge, {{AlleDuenn, LetzterDuenn}, {AlleDick, LetzterDick}});
     SetNewTitle();
     infoLabel22->setText(tr(" "));
     zeigeDuenn(*this);
 }
 
 void UI::OrbitAlleDeleteSlot() {
-    if (Menge->g_OrbitJa == Aus) {
+    if (Menge->g_OrbitJa == OrbitAus) {
         return;
     }
-    Menge->g_OrbitDuennJa = Menge->g_OrbitDuennJa == DickAlle ? DickLoeschen : DuennLoeschen;
+    Menge->g_OrbitDuennJa = Menge->g_OrbitDuennJa == AlleDick ? LoeschenDick : LoeschenDuenn;
     SetNewTitle();
     zeigeDuenn(*this);
 }
 
 void UI::OrbitMPSlot() {
-    if (Menge->g_OrbitJa == Aus) {
-        Menge->g_OrbitJa = Weiss;
-        Menge->g_OrbitDuennJa = DuennLetzter;
+    if (Menge->g_OrbitJa == OrbitAus) {
+        Menge->g_OrbitJa = OrbitWeiss;
+        Menge->g_OrbitDuennJa = LetzterDuenn;
     }
     Menge->g_OrbitMP = 1;
     SetNewTitle();
@@ -178,11 +165,11 @@ void UI::OrbitOffSlot() {
     // The model's signal comes queued: a second one may arrive when the orbit is off already, or
     // one from a model that has been replaced meanwhile. Commands and direct calls always act.
     const auto* absender = qobject_cast<Mandelbrot*>(sender());
-    if (absender != nullptr && (absender != Menge || Menge->g_OrbitJa == Aus)) {
+    if (absender != nullptr && (absender != Menge || Menge->g_OrbitJa == OrbitAus)) {
         return;
     }
-    Menge->g_OrbitJa = Aus;
-    Menge->g_OrbitDuennJa = DickLetzter;
+    Menge->g_OrbitJa = OrbitAus;
+    Menge->g_OrbitDuennJa = LetzterDick;
     Menge->g_maxOrbitIterat = OrbitLaengeVoll;
     Menge->g_OrbitMP = 0;
     Menge->g_OrbitAbIterAn = 0;
