@@ -4,18 +4,19 @@
 //
 //     wirbelwerk_dauerlauf [STEPS [SEED]]          (default 20000 steps, seed 1)
 //
-// Orbit lists are written to the working directory; start it in a scratch folder.
+// Orbit lists, pictures and picture data are written to the working directory; start it in a
+// scratch folder.
 
 #include "files/Bilddaten.h"
 #include "UI_Hauptfenster.h"
 
 #include <QBuffer>
-#include <QDeadlineTimer>
-#include <QDir>
 #include <QElapsedTimer>
-#include <QFile>
+#include <QFileDialog>
+#include <QLineEdit>
 #include <QMetaMethod>
 #include <QMouseEvent>
+#include <QPointer>
 #include <QTextStream>
 #include <QTimer>
 
@@ -64,12 +65,8 @@ class Dauerlauf {
                 befehle.push_back(methode);
             }
         }
-        QObject::connect(&boxenSchliesser, &QTimer::timeout, &boxenSchliesser, [] {
-            if (QWidget* const box = QApplication::activeModalWidget()) {
-                box->close();
-            }
-        });
-        boxenSchliesser.start(1);
+        QObject::connect(&antwortgeber, &QTimer::timeout, &antwortgeber, [this] { antworten(); });
+        antwortgeber.start(1);
         fenster.show();
     }
 
@@ -145,6 +142,22 @@ class Dauerlauf {
         QApplication::sendEvent(fenster.Menge, &klick);
     }
 
+    /// File dialogs get one name after the other, a second question ends them; boxes are closed.
+    void antworten() {
+        constexpr std::array<const char*, 5> namen{"lauf.fraktal", "lauf.png", "fehlt/lauf.fraktal",
+                                                   ".", ""};
+        QWidget* const box = QApplication::activeModalWidget();
+        auto* const dialog = qobject_cast<QFileDialog*>(box);
+        if (dialog != nullptr && dialog != beantwortet) {
+            beantwortet = dialog;
+            dialog->findChild<QLineEdit*>("fileNameEdit")->setText(namen[dialoge++ % namen.size()]);
+            // Queued: the dialog may ask back, and the timer must tick for the answer.
+            QMetaObject::invokeMethod(dialog, "accept", Qt::QueuedConnection);
+        } else if (box != nullptr) {
+            box->close();
+        }
+    }
+
     void eintragen(int n) {
         const auto reelle = fenster.findChildren<QDoubleSpinBox*>();
         const auto ganze = fenster.findChildren<QSpinBox*>();
@@ -202,7 +215,9 @@ class Dauerlauf {
 
     std::mt19937 zufall;
     UI fenster;
-    QTimer boxenSchliesser;
+    QTimer antwortgeber;
+    QPointer<QFileDialog> beantwortet; ///< the next dialog may get the same address
+    std::size_t dialoge = 0;
     std::vector<QMetaMethod> befehle;
 };
 
