@@ -18,14 +18,13 @@
 
 namespace {
 
-constexpr int Streifenbreite = 20; ///< palette strip, cut off here
-constexpr int Spaltenzahl = 10;    ///< pictures in a row of the sheet
+constexpr int Spaltenzahl = 10; ///< pictures in a row of the sheet
 constexpr int Schrifthoehe = 16;
 
-/// The start picture of an equation, full size.
+/// The start picture of an equation, full size, without the palette strip.
 QImage startbild(Mandelbrot& menge, qint32 nummer, const QSize& groesse) {
     menge.wahl_Gleichung = nummer;
-    menge.resize(groesse.width() + Streifenbreite, groesse.height());
+    menge.resize(groesse.width() + Mandelbrot::Streifenbreite, groesse.height());
     menge.Initialisierung();
     menge.g_halbesBild = 0;
     menge.Bildflaeche = QImage();
