@@ -8,7 +8,7 @@
 using M = Mandelbrot;
 using Feld = std::variant<double M::*, qint32 M::*>;
 
-/// The fields that commands and operations change, by name.
+/// The fields that commands, operations and the driver change, by name.
 // clang-format off
 inline const std::map<QString, Feld> Felder{
     {"MP_x", &M::MP_x}, {"MP_y", &M::MP_y}, {"Br_x", &M::Br_x}, {"Br_y", &M::Br_y},
@@ -36,6 +36,8 @@ inline const std::map<QString, Feld> Felder{
     {"g_OrbitAbIterAn", &M::g_OrbitAbIterAn}, {"g_Gitterabstand", &M::g_Gitterabstand},
     {"g_Genauigkeit", &M::g_Genauigkeit}, {"g_SummeGross", &M::g_SummeGross},
     {"g_SummeViertel", &M::g_SummeViertel}, {"g_Max_rgbFarben", &M::g_Max_rgbFarben},
+    {"g_Bildverhaeltnis", &M::g_Bildverhaeltnis}, {"kPotHg", &M::kPotHg}, {"kPotHu", &M::kPotHu},
+    {"g_Max_glg_Abbruch", &M::g_Max_glg_Abbruch}, {"TeilerColorbild", &M::TeilerColorbild},
 };
 // clang-format on
 

@@ -9,17 +9,6 @@
 
 // Plain-text tables of cases that set and compare the model's fields by name.
 
-/// The fields that a text may name.
-inline const std::map<QString, Feld> AlleFelder = [] {
-    auto felder = Felder;
-    felder.insert({{"g_Bildverhaeltnis", &M::g_Bildverhaeltnis},
-                   {"g_Max_glg_Abbruch", &M::g_Max_glg_Abbruch},
-                   {"kPotHg", &M::kPotHg},
-                   {"kPotHu", &M::kPotHu},
-                   {"TeilerColorbild", &M::TeilerColorbild}});
-    return felder;
-}();
-
 /// The numbers of "Feld=Zahl Feld=Zahl", among them inf and nan.
 inline std::map<QString, double> zahlen(const QString& werte) {
     std::map<QString, double> zahlen;
@@ -35,38 +24,46 @@ inline std::map<QString, double> zahlen(const QString& werte) {
 
 inline void setze(M& m, const QString& werte) {
     for (const auto& [name, wert] : zahlen(werte)) {
-        setzeFeld(m, AlleFelder.at(name), wert);
+        setzeFeld(m, Felder.at(name), wert);
     }
 }
 
 /// What differs from the given numbers, empty when nothing does.
-inline QString abweichung(const M& m, const std::map<QString, double>& soll) {
+inline QString abweichung(const M& m, const QString& soll) {
     QString text;
-    for (const auto& [name, wert] : soll) {
-        const double ist = feldwert(m, AlleFelder.at(name));
+    for (const auto& [name, wert] : zahlen(soll)) {
+        const double ist = feldwert(m, Felder.at(name));
         if (ist != wert && !(std::isnan(ist) && std::isnan(wert))) {
-            text +=
-                QString("%1 = %2, not %3; ").arg(name).arg(ist, 0, 'g', 17).arg(wert, 0, 'g', 17);
+            text += QString("%1 = %2; ").arg(name).arg(ist, 0, 'g', 17);
         }
     }
     return text;
 }
-inline QString abweichung(const M& m, const QString& soll) { return abweichung(m, zahlen(soll)); }
 
-/// Makes each line of a text file below tests/ a test row with the list of its columns. ';' parts
-/// columns, '#' begins a comment; the line itself is the row's name.
-inline void zeilenAus(const QString& datei) {
-    QTest::addColumn<QStringList>("spalten");
+/// The rows of a text file below tests/ as lists of columns. ';' parts columns, '#' begins a
+/// comment.
+inline QList<QStringList> tabelle(const QString& datei) {
     QFile quelle(QFINDTESTDATA(datei));
-    QVERIFY2(quelle.open(QIODevice::ReadOnly), qPrintable(datei));
-    while (!quelle.atEnd()) {
-        const QString zeile = QString::fromUtf8(quelle.readLine()).section('#', 0, 0).simplified();
+    if (!quelle.open(QIODevice::ReadOnly)) {
+        qFatal("no %s", qPrintable(datei));
+    }
+    QList<QStringList> zeilen;
+    for (const QString& zeile : QString::fromUtf8(quelle.readAll()).split('\n')) {
         QStringList spalten;
-        for (const QString& spalte : zeile.split(';')) {
+        for (const QString& spalte : zeile.section('#', 0, 0).split(';')) {
             spalten << spalte.trimmed();
         }
-        if (!zeile.isEmpty()) {
-            QTest::newRow(qPrintable(zeile)) << spalten;
+        if (spalten != QStringList{""}) {
+            zeilen << spalten;
         }
+    }
+    return zeilen;
+}
+
+/// Makes each row of a text file a test row; the line itself is the row's name.
+inline void zeilenAus(const QString& datei) {
+    QTest::addColumn<QStringList>("spalten");
+    for (const QStringList& spalten : tabelle(datei)) {
+        QTest::newRow(qPrintable(spalten.join("; "))) << spalten;
     }
 }

@@ -1,10 +1,9 @@
 #include "Meldung.h"
-#include "Stand.h"
+#include "Texttabelle.h"
+#include "UI_Hauptfenster.h"
 
-#include <QRegularExpression>
-
-// Every command in several starting states: the whole record is compared before and after, so a
-// command that writes one field more than its line says is caught as well.
+// Every command: all that it can change is compared before and after, so a command that writes one
+// field more than its row says is caught as well.
 
 namespace {
 
@@ -24,23 +23,65 @@ class Bildzaehler : public QObject {
     }
 };
 
-struct Zeile {
-    QString name, ende, schritte;
-};
+/// What a command can change, as text: fields, boxes (">" and the name), labels and the rest.
+using Stand = std::map<QString, QString>;
 
-/// A line of befehle.txt, one for each name in its braces.
-QList<Zeile> entpackt(const QString& text) {
-    const QString kopf = text.section("; ", 0, 0);
-    const Zeile zeile{kopf.section(' ', 0, -2), kopf.section(' ', -1), text.section("; ", 1)};
-    const auto klammer = QRegularExpression("\\{(.*)\\}").match(zeile.name);
-    QList<Zeile> zeilen;
-    for (const QString& teil : klammer.captured(1).split(' ')) {
-        QString name = zeile.name;
-        name.replace(klammer.captured(), teil.section(':', 0, 0));
-        QString schritte = zeile.schritte;
-        zeilen << Zeile{name, zeile.ende, schritte.replace('#', teil.section(':', -1))};
+QString alsText(double wert) { return QString::number(wert, 'g', 17); }
+
+/// The parameters in the order of their boxes in the panel: equation, picture, colours, constant.
+const QStringList Boxnamen =
+    QString("wahl_Gleichung MP_x MP_y Br_x Max_Iterationen glg_Abbruch wert_Abbruch click2_Zoom "
+            "Koppl_x Koppl_y it_Factor div_Factor rechen_VarianteDiv konv_Factor "
+            "rechen_VarianteKonv color_Offset zahl_farbtab zahl_Matrix CJ_x CJ_y")
+        .split(' ');
+const QStringList Farbwerte = Boxnamen.mid(10, 8);
+
+/// Applies what a row says to the state before the command.
+void erwarte(Stand& stand, const QString& worte) {
+    for (const QString& wort : worte.split(' ', Qt::SkipEmptyParts)) {
+        const QString name = wort.section('=', 0, 0);
+        const QString feld = name.mid(1);
+        if (feld == "alles" || feld == "farben") {
+            for (const QString& eines : feld == "alles" ? Boxnamen.mid(1) : Farbwerte) {
+                erwarte(stand, name[0] + eines);
+            }
+        } else if (wort.contains('=')) {
+            stand.at(name) = alsText(wort.section('=', 1).toDouble());
+        } else if (name.startsWith('>')) {
+            stand.at(name) = stand.at(feld);
+        } else {
+            stand.at(feld) = stand.at('>' + feld);
+        }
     }
-    return klammer.hasMatch() ? zeilen : QList<Zeile>{zeile};
+}
+
+/// Fields before a command: none is 0 or what a command leaves, so that every writing shows.
+const char* const Grundstand =
+    "MP_x=1 MP_y=2 Br_x=4 Br_y=9 R_Min=9 R_Max=9 I_Min=9 I_Max=9 CJ_x=5 CJ_y=6 Koppl_x=3 "
+    "Koppl_y=0.5 "
+    "wert_Abbruch=8 click2_Zoom=2 div_Factor=3 konv_Factor=5 it_Factor=7 g_Genauigkeit=0.5 "
+    "g_Gitterabstand=9 "
+    "g_SummeGross=9 g_SummeViertel=9 g_Bildverhaeltnis=0.875 TeilerColorbild=9 Max_Iterationen=64 "
+    "kPotHg=9 kPotHu=9 "
+    "rechen_VarianteDiv=6 rechen_VarianteKonv=6 wahl_Gleichung=101 g_ZwillingJa=3 color_Offset=40 "
+    "g_Max_rgbFarben=512 "
+    "zahl_farbtab=14 Palettenzahl=3 wahlPalette48=9 glg_Abbruch=3 g_Max_glg_Abbruch=9 "
+    "zahl_Matrix=22 Schieber=300 "
+    "g_MittelkreuzJa=9 g_NullkreuzJa=9 g_GitterJa=9 g_linienLoeschenJa=9 g_JuliaJa=9 g_GenauJa=9 "
+    "g_RechnenJa=9 "
+    "g_halbesBild=3 g_oberesHalbbild=9 g_BildLoeschen=9 g_UnDo=9 g_kPotenz=9 g_zycmax=9 OPx=101 "
+    "OPy=-51 "
+    "g_VorschauAusJa=9 g_PixVorschauX=90 g_PixVorschauY=91 g_PixConstX=92 g_PixConstY=93 "
+    "g_OrbitJa=4 g_OrbitDuennJa=1 g_maxOrbitIterat=9 g_OrbitMP=9 g_OrbitAbIterAn=9 ";
+
+QString unterschied(const Stand& ist, const Stand& soll) {
+    QString text;
+    for (const auto& [name, wert] : ist) {
+        if (wert != soll.at(name)) {
+            text += QString("%1: %2 instead of %3; ").arg(name, wert, soll.at(name));
+        }
+    }
+    return text;
 }
 
 } // namespace
@@ -50,109 +91,68 @@ class TestBefehle : public QObject {
 
   private Q_SLOTS:
     void initTestCase() {
-        for (const QString& zeile : zeilenAus("befehle.txt")) {
-            if (zeile.startsWith('@')) {
-                anfaenge << zeile;
-            } else if (zeile.startsWith('*')) {
-                andere << zeile.split(' ').mid(1);
-            } else if (zeile.startsWith('=')) {
-                Stand::woerter[zeile.section("; ", 0, 0).mid(2)] = zeile.section("; ", 1);
-            } else {
-                befehle << entpackt(zeile);
-            }
-        }
         fenster.Menge->installEventFilter(&bilder);
         fenster.Menge->installEventFilter(&fenster); // the window sees the paints first
         fenster.show();
         QTRY_VERIFY(bilder.anzahl > 0);
         QTest::qWait(0);
         QVERIFY(fenster.windowTitle().startsWith("Wirbelwerk (")); // not yet renewed
-        frisch = lies(fenster);
-        frisch.feld["Schieber"] = 300;
-        for (double zahl = 2001; auto& [name, wert] : frisch.box) {
-            wert = zahl++;
-        }
-        for (auto& [name, text] : frisch.label) {
-            text = "old";
-        }
     }
 
-    void jederBefehlHatEineZeile() {
-        QStringList slotliste, zeilen = andere;
-        for (const Zeile& zeile : befehle) {
-            zeilen << zeile.name;
-        }
-        const QMetaObject& meta = UI::staticMetaObject;
-        for (int i = meta.methodOffset(); i < meta.methodCount(); ++i) {
-            const QString name = QString::fromLatin1(meta.method(i).name());
-            if (name.endsWith("Slot")) {
-                slotliste << name.chopped(4);
+    /// A row with braces stands for one command for each word in them; "$" is what follows the
+    /// word's colon, or the word.
+    void befehl_data() {
+        QTest::addColumn<QStringList>("spalten");
+        for (const QStringList& spalten : tabelle("window/befehle.txt")) {
+            const QString zeile = spalten.join(';');
+            const QString klammer = zeile.section('{', 1).section('}', 0, 0);
+            for (const QString& wort : klammer.split(' ')) {
+                QString eine = zeile;
+                eine.replace('{' + klammer + '}', wort.section(':', 0, 0));
+                eine.replace('$', wort.section(':', -1));
+                QTest::newRow(qPrintable(eine)) << eine.split(';');
             }
         }
-        slotliste.sort();
-        zeilen.sort();
-        QCOMPARE(zeilen, slotliste);
     }
-
-    void befehl_data() {
-        QTest::addColumn<QString>("ende");
-        QTest::addColumn<QString>("schritte");
-        for (const Zeile& zeile : befehle) {
-            QTest::newRow(qPrintable(zeile.name)) << zeile.ende << zeile.schritte;
-        }
-    }
-
     void befehl() {
-        QFETCH(QString, ende);
-        QFETCH(QString, schritte);
-        const QByteArray slot = QByteArray(QTest::currentDataTag()) + "Slot";
-        for (qsizetype i = 0; i < anfaenge.size(); ++i) {
-            Stand soll = anfangen(i);
-            soll.ende = ende;
-            soll.tue(schritte);
-            const Meldung meldung =
-                meldungBei([&] { QMetaObject::invokeMethod(&fenster, slot.constData()); });
-            const Stand ist = lies(fenster);
-            const bool neuerTitel = fenster.windowTitle() != "old";
-            QTest::qWait(0);
-
-            const QByteArray anfang = anfaenge[i].section(';', 0, 0).toUtf8() + ": ";
-            const QString fehler = unterschied(ist, soll);
-            QVERIFY2(fehler.isEmpty(), anfang + fehler.toUtf8());
-            QVERIFY2(neuerTitel == soll.ende.contains('T'), anfang + "title");
-            QVERIFY2((bilder.anzahl > 0) == soll.ende.contains('B'), anfang + "repaint");
-            QCOMPARE(meldung.anzahl, soll.meldung.isEmpty() ? 0 : 1);
-            QCOMPARE(meldung.anzahl > 0 ? meldung.titel + "|" + meldung.text : "", soll.meldung);
+        QFETCH(QStringList, spalten);
+        anfangen(spalten[1]);
+        Stand soll = lies();
+        erwarte(soll, spalten[2]);
+        soll["Ende"] = spalten[3];
+        for (const QString& text : spalten.mid(4)) {
+            soll.at(text.section(' ', 0, 0)) = text.section('"', 1, -2);
         }
+        const QByteArray slot = spalten[0].toUtf8() + "Slot";
+        const Meldung meldung =
+            meldungBei([&] { QMetaObject::invokeMethod(&fenster, slot.constData()); });
+        Stand ist = lies();
+        const bool titel = fenster.windowTitle() != "old";
+        QTest::qWait(0);
+        ist["Ende"] = QString(bilder.anzahl > 0 ? "B" : "") + (titel ? "T" : "");
+        ist["Ende"] += ist["Ende"].isEmpty() ? "-" : "";
+        ist["Meldung"] = meldung.anzahl > 0 ? meldung.titel + '|' + meldung.text : "";
+        QCOMPARE(unterschied(ist, soll), QString());
+        QVERIFY(meldung.anzahl < 2 && (meldung.besitzer != nullptr) == (meldung.anzahl == 1));
     }
 
-    void titel_data() {
-        QTest::addColumn<QString>("erwartet");
-        for (const QString& zeile : zeilenAus("titel.txt")) {
-            QTest::newRow(qPrintable(zeile.section(" -> ", 0, 0)))
-                << zeile.section(" -> ", 1).mid(1).chopped(1);
-        }
-    }
-
+    void titel_data() { zeilenAus("window/titel.txt"); }
     void titel() {
-        QFETCH(QString, erwartet);
-        Stand stand = frisch;
-        for (auto& [name, wert] : stand.feld) {
-            wert = 0;
+        QFETCH(QStringList, spalten);
+        for (const auto& [name, feld] : Felder) {
+            setzeFeld(*fenster.Menge, feld, 0);
         }
-        stand.tue("g_Gitterabstand=0.125; g_kPotenz=10; g_zycmax=7");
-        stand.tue(QTest::currentDataTag());
-        stelle(fenster, stand);
+        setze(*fenster.Menge, "g_Gitterabstand=0.125 g_kPotenz=10 g_zycmax=7 " + spalten[0]);
         fenster.Menge->g_Versionsnummer = "V";
         fenster.Menge->g_NameGlg = "Name";
         fenster.Menge->g_OrbitStartString = "[a]";
         fenster.Menge->g_OrbitEndString = " [b]";
         fenster.SetNewTitle();
-        QCOMPARE(fenster.windowTitle(), "WirbelwerkV" + erwartet);
+        QCOMPARE('"' + fenster.windowTitle() + '"', "\"WirbelwerkV" + spalten[1].mid(1));
     }
 
     void titelNachDemBild() {
-        anfangen(0);
+        anfangen("g_OrbitJa=0 Schieber=0");
         fenster.Menge->g_NameGlg = "before";
         fenster.NeueBerechnungSlot();
         QVERIFY(fenster.windowTitle().contains(">> before <<"));
@@ -163,56 +163,42 @@ class TestBefehle : public QObject {
         QVERIFY(fenster.windowTitle().contains(">> name 1 <<"));
     }
 
-    void viertelUndReset() {
-        anfangen(0);
+    /// Quarters, undo and redo show the parameters that were stored, clearing discards a quarter's.
+    void fruehereBilder() {
         Mandelbrot& m = *fenster.Menge;
-        m.g_halbesBild = 2;
-        m.MP_x = 0.5;
+        const auto mitteNach = [&](void (UI::*slot)()) {
+            m.MP_x = -3.0;
+            (fenster.*slot)();
+            return m.MP_x == fenster.UI_MPx->value() ? m.MP_x : NAN;
+        };
+        anfangen("g_halbesBild=2");
         m.DatenSichern();
-        m.MP_x = -3.0;
-        fenster.PixelXYDurch2Pos2Slot();
-        QCOMPARE(m.MP_x, 0.5);
-        QCOMPARE(fenster.UI_MPx->value(), 0.5);
-        fenster.BildSchwarzSlot(); // discards the quarter's record
-        m.MP_x = -3.0;
-        fenster.PixelXYDurch2Pos2Slot();
-        QCOMPARE(m.MP_x, -3.0);
+        QCOMPARE(mitteNach(&UI::PixelXYDurch2Pos2Slot), 1.0);
+        fenster.BildSchwarzSlot();
+        QCOMPARE(mitteNach(&UI::PixelXYDurch2Pos2Slot), -3.0);
 
-        anfangen(2);
-        fenster.ResetSlot();
-        QCOMPARE(m.g_OrbitJa, 0);
-        QCOMPARE(m.Max_Iterationen, 256);
-        QCOMPARE(fenster.UI_Iterationen->value(), 256);
-    }
-
-    void verlaufLaedtFruehereBilder() {
-        anfangen(0);
-        Mandelbrot& m = *fenster.Menge;
+        anfangen("g_halbesBild=0");
         m.bilddatenInteger = 1;
         for (const double mitte : {1.0, 2.0, 3.0, 3.0}) { // the last record is only in row 0
             m.MP_x = mitte;
             m.DatenSichern();
         }
-        fenster.UnDo1DatenTeilbildLadenSlot();
-        QCOMPARE(fenster.UI_MPx->value(), 3.0);
-        fenster.UnDo2DatenTeilbildLadenSlot();
-        QCOMPARE(fenster.UI_MPx->value(), 2.0);
-        fenster.WiederholenDatenTeilbildLadenSlot();
-        QCOMPARE(fenster.UI_MPx->value(), 3.0);
+        QCOMPARE(mitteNach(&UI::UnDo1DatenTeilbildLadenSlot), 3.0);
+        QCOMPARE(mitteNach(&UI::UnDo2DatenTeilbildLadenSlot), 2.0);
+        QCOMPARE(mitteNach(&UI::WiederholenDatenTeilbildLadenSlot), 3.0);
+        QCOMPARE(mitteNach(&UI::ResetSlot), -0.5);
+        QCOMPARE(m.g_OrbitJa, 0);
     }
 
     /// Queued, so that no box opens inside a paint, and only for the present model's orbit.
     void orbitAusKommtSpaeterUndEinmal() {
-        anfangen(1);
+        anfangen({});
         const auto zweimal = [&] {
             Q_EMIT fenster.Menge->OrbitOffSignal();
             Q_EMIT fenster.Menge->OrbitOffSignal();
         };
         QCOMPARE(meldungBei(zweimal).anzahl, 0);
-        QCOMPARE(fenster.Menge->g_OrbitJa, 4);
-        const Meldung spaeter = meldungBei([&] { QTest::qWait(50); });
-        QCOMPARE(spaeter.anzahl, 1);
-        QCOMPARE(spaeter.besitzer, &fenster);
+        QCOMPARE(meldungBei([&] { QTest::qWait(50); }).anzahl, 1);
         QCOMPARE(fenster.Menge->g_OrbitJa, 0);
         QVERIFY(bilder.anzahl > 0);
 
@@ -225,23 +211,56 @@ class TestBefehle : public QObject {
     }
 
   private:
-    /// The window shows a starting state, by its number.
-    Stand anfangen(qsizetype nummer) {
-        Stand stand = frisch;
-        stand.feld["Br_y"] = stand.feld["Br_x"] * Stand::Verhaeltnis;
-        stand.tue(anfaenge.at(nummer).section("; ", 1) + "; zahl");
-        stelle(fenster, stand);
+    std::map<QString, QLabel*> labels() const {
+        return {{"11", fenster.infoLabel11},     {"22", fenster.infoLabel22},
+                {"33", fenster.infoLabel33},     {"Cx33", fenster.infoLabelCx33},
+                {"Cy33", fenster.infoLabelCy33}, {"Palette", fenster.infoLabelPalette}};
+    }
+
+    Stand lies() const {
+        Stand stand{{"Ende", {}}, {"Meldung", {}}};
+        for (const auto& [name, feld] : Felder) {
+            stand[name] = alsText(feldwert(*fenster.Menge, feld));
+        }
+        for (int i = 0; i < Boxnamen.size(); ++i) {
+            stand['>' + Boxnamen[i]] = alsText(boxen[i]->property("value").toDouble());
+        }
+        for (const auto& [name, label] : labels()) {
+            stand[name] = label->text();
+        }
+        stand["Schieber"] = alsText(fenster.colShift_Slider->value());
+        stand["Palettenzahl"] = fenster.Menge->g_PalettenZahl;
+        return stand;
+    }
+
+    /// The window shows the base state with the given changes.
+    void anfangen(const QString& worte) {
+        for (int i = 0; i < Boxnamen.size(); ++i) {
+            boxen[i]->setProperty("value", 2001 + i);
+        }
+        for (const auto& [name, label] : labels()) {
+            label->setText("old");
+        }
+        for (const auto& [name, wert] : zahlen(Grundstand + worte)) {
+            if (name == "Schieber") {
+                const QSignalBlocker stumm(fenster.colShift_Slider);
+                fenster.colShift_Slider->setValue(int(wert));
+            } else if (name == "Palettenzahl") {
+                fenster.Menge->g_PalettenZahl = alsText(wert);
+            } else if (name.startsWith('>')) {
+                boxen[Boxnamen.indexOf(name.mid(1))]->setProperty("value", wert);
+            } else {
+                setzeFeld(*fenster.Menge, Felder.at(name), wert);
+            }
+        }
         QTest::qWait(0);
         fenster.setWindowTitle("old"); // the last command's paint may have renewed it
         bilder.anzahl = 0;
-        return stand;
     }
 
     UI fenster;
     Bildzaehler bilder;
-    Stand frisch;
-    QStringList anfaenge, andere;
-    QList<Zeile> befehle;
+    const QList<QAbstractSpinBox*> boxen = fenster.findChildren<QAbstractSpinBox*>();
 };
 
 QTEST_MAIN(TestBefehle)

@@ -1,2 +1,2 @@
-wirbelwerk_test(test_befehle window/test_befehle.cpp window/Stand.cpp)
-wirbelwerk_test(test_fenster window/test_fenster.cpp window/Stand.cpp)
+wirbelwerk_test(test_befehle window/test_befehle.cpp)
+wirbelwerk_test(test_fenster window/test_fenster.cpp)
