@@ -1,2 +1,1 @@
-wirbelwerk_test(test_farbwahl colours/test_farbwahl.cpp)
-wirbelwerk_test(test_paletten colours/test_paletten.cpp)
+wirbelwerk_test(test_farben colours/test_farben.cpp)

@@ -1,0 +1,144 @@
+// Palettes, colour lookup and palette commands.
+
+#include "colours/Farbwahl.h"
+#include "Texttabelle.h"
+
+namespace {
+
+using Zahlen = QList<double>;
+
+Zahlen liste(const QString& text) {
+    Zahlen liste;
+    for (const QString& wort : text.split(' ', Qt::SkipEmptyParts)) {
+        liste << wort.toDouble();
+    }
+    return liste;
+}
+
+qint32 ganz(double wert) { return static_cast<qint32>(wert); }
+quint32 natuerlich(double wert) { return static_cast<quint32>(wert); }
+
+Zahlen ausReihe(std::span<const quint8> palette, double reihe) {
+    const auto i = 3 * static_cast<std::size_t>(reihe);
+    return {double(palette[i]), double(palette[i + 1]), double(palette[i + 2])};
+}
+Zahlen rgb(const QColor& f) { return {double(f.red()), double(f.green()), double(f.blue())}; }
+Zahlen variante(double code, double platz) {
+    return ausReihe(farbvariante({10, 20, 40}, static_cast<qint64>(code), ganz(platz)), 0);
+}
+
+void baue48(M& m, double art, const Zahlen& farben) {
+    const auto wahl = [&farben](qsizetype i) { return natuerlich(farben.value(i)); };
+    m.fillPalette48(natuerlich(art), wahl(0), wahl(1), wahl(2), wahl(3), wahl(4), wahl(5));
+}
+
+Zahlen farbe(M& m, const Zahlen& a) {
+    m.zahl_farbtab = ganz(a[0]);
+    m.wahlPalette48 = ganz(a[4]);
+    baue48(m, a[4], {});
+    const QColor f = m.FarbeV1(natuerlich(a[1]), natuerlich(a[2]), natuerlich(a[3]));
+    return rgb(f) << m.g_Max_rgbFarben << m.wahlPalette48;
+}
+
+template <void (M::*befehl)()>
+Zahlen nach(M& m, const Zahlen& a) {
+    setze(m, QString("zahl_farbtab=%1 g_RechnenJa=3 wahlPalette48=9").arg(a[0]));
+    (m.*befehl)();
+    return {double(m.zahl_farbtab), double(m.g_RechnenJa), double(m.wahlPalette48),
+            m.g_PalettenZahl.toDouble()};
+}
+
+Zahlen schritt(M& m, const Zahlen& a) {
+    m.zahl_farbtab = ganz(a[0]);
+    m.zahl_farbtabPlusM(ganz(a[1]));
+    return {double(m.zahl_farbtab), m.g_PalettenZahl.toDouble()};
+}
+
+Zahlen versatz(M& m, const Zahlen& a) {
+    m.g_Max_rgbFarben = 512;
+    m.color_OffsetSlider(ganz(a[0]));
+    m.color_OffsetPlusM(ganz(a[1]));
+    return {double(m.color_Offset)};
+}
+
+/// What the table's first column names.
+const std::map<QString, Zahlen (*)(M&, const Zahlen&)> Tafel{
+    {"palette",
+     [](M& m, const Zahlen& a) {
+         baue48(m, a[0], a.mid(2));
+         return ausReihe(m.Palette48, a[1]);
+     }},
+    {"spektrum", [](M& m, const Zahlen& a) { return ausReihe(m.colormapWave, a[0]); }},
+    {"fest", [](M&, const Zahlen& a) { return ausReihe(festpalette(), a[0]); }},
+    {"erste",
+     [](M&, const Zahlen& a) {
+         return variante(11, a[0]) + variante(21, a[0]) + variante(31, a[0]) + variante(41, a[0]);
+     }},
+    {"variante", [](M&, const Zahlen& a) { return variante(a[1], a[0]); }},
+    {"index",
+     [](M&, const Zahlen& a) {
+         return Zahlen{double(Indexregel{a[1], a[2], natuerlich(a[0])}(natuerlich(a[3])))};
+     }},
+    {"farbe", farbe},
+    {"kreuz", [](M& m, const Zahlen& a) { return rgb(m.FarbeKreuze(natuerlich(a[0]))); }},
+    {"drei", nach<&M::Farbtabelle3Farben>},
+    {"sechs", nach<&M::Farbtabelle6Farben>},
+    {"laden", nach<&M::FarbtabelleWaveLaden>},
+    {"spektral", nach<&M::FarbtabelleWaveAn>},
+    {"feld", nach<&M::TabelleArray>},
+    {"schritt", schritt},
+    {"versatz", versatz}};
+
+} // namespace
+
+class TestFarben : public QObject {
+    Q_OBJECT
+
+    std::unique_ptr<M> m;
+
+  private Q_SLOTS:
+    void init() {
+        m = std::make_unique<M>();
+        setze(*m, "zahl_Matrix=11 color_Offset=0 it_Factor=1 wahlPalette48=1 zahl_farbtab=0");
+        m->colormapWave.fill(1);
+        m->FarbtabelleWaveLaden();
+        baue48(*m, 1, {});
+    }
+
+    void werte_data() { zeilenAus("colours/farben.txt"); }
+    void werte() {
+        QFETCH(QStringList, spalten);
+        QCOMPARE(Tafel.at(spalten[0])(*m, liste(spalten[1])), liste(spalten[2]));
+    }
+
+    void tafelGleichEinzelfarbe() {
+        setze(*m, "color_Offset=500 it_Factor=3.7");
+        for (const qint32 farbtab : {3, 14, 26, 41}) {
+            m->zahl_farbtab = farbtab;
+            std::array<QRgb, HauptFarben> tafel{};
+            farbtafel(*m, 33, tafel);
+            for (quint32 nummer = 0; nummer < 700; nummer += 9) {
+                QCOMPARE(tafel[indexregel(*m)(nummer)], m->FarbeV1(nummer, 33, 0).rgba());
+            }
+        }
+    }
+
+    // A smooth ramp with a grain of 2 in blue, and in green while there is hardly any.
+    void festerVerlauf() {
+        int koernig = 0;
+        for (int i = 1; i < 256; ++i) {
+            const Zahlen vor = ausReihe(festpalette(), i - 1);
+            const Zahlen jetzt = ausReihe(festpalette(), i);
+            const double gruen = jetzt[1] - vor[1];
+            QVERIFY2(jetzt[0] >= vor[0] && jetzt[0] <= vor[0] + 4, qPrintable(QString::number(i)));
+            QVERIFY(i <= 116 ? jetzt[1] == 0 || jetzt[1] == 2 : gruen >= 0 && gruen <= 5);
+            QVERIFY(std::abs(jetzt[2] - vor[2]) <= 5);
+            QVERIFY(i < 48 || (jetzt[2] >= 48 && jetzt[2] <= 54));
+            koernig += std::abs(jetzt[2] - vor[2]) == 2 && (i > 116 || gruen != 0) ? 1 : 0;
+        }
+        QVERIFY2(koernig > 40, qPrintable(QString::number(koernig)));
+    }
+};
+
+QTEST_MAIN(TestFarben)
+#include "test_farben.moc"
