@@ -13,5 +13,8 @@ inline std::unique_ptr<Mandelbrot> bildprobe(int breite, int hoehe) {
     return m;
 }
 
-/// Paints the widget once and returns what it shows.
-inline QImage malen(Mandelbrot& m) { return m.grab().toImage(); }
+/// Sets fields, paints the widget once and returns what it shows.
+inline QImage malen(Mandelbrot& m, const QString& felder = {}) {
+    setze(m, felder);
+    return m.grab().toImage();
+}

@@ -44,9 +44,8 @@ class TestEinfaerbung : public QObject {
     std::unique_ptr<M> m;
 
     QImage faerben(const QString& felder) {
-        setze(*m, felder);
         m->Bildflaeche.fill(Vorher);
-        return malen(*m);
+        return malen(*m, felder);
     }
 
   private Q_SLOTS:
