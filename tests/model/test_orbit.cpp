@@ -179,14 +179,15 @@ class TestOrbit : public QObject {
         const QRegularExpression zeit("(\\d{4}-\\d\\d-)?\\d\\d \\d\\d:\\d\\d(:\\d\\d)?");
         QCOMPARE(QString(m->g_OrbitListeHTMStr).replace(zeit, "now"),
                  QString::fromUtf8(datei.readAll()).remove('\n'));
-        malen(*m, "g_OrbitMP=1 g_ZwillingJa=4 Koppl_x=1.5 Koppl_y=-2.5 Max_Iterationen=300 "
-                  "g_OrbitAbIterAn=0 g_maxOrbitIterat=300");
+        malen(*m, "g_OrbitMP=1 g_ZwillingJa=4 Koppl_x=1.5 Koppl_y=-2.5");
         for (const QString teil :
-             {"Zwilling = 4, KopplXY (1.5000000000000000, -2.5000000000000000)<br>",
-              "<br>Hinweise: Orbit vom Mittelpunkt <br>Für Fortsetzung: ", ">256. ("}) {
-            QVERIFY2(m->g_OrbitListeHTMStr.contains(teil), qPrintable(m->g_OrbitListeHTMStr));
+             {"Zwilling = 4, KopplXY (1.5000000000000000, -2.5000000000000000)<br>C-Julia",
+              "K-Potenz= 8<br>Hinweise: Orbit vom Mittelpunkt <br>Für Fortsetzung: "}) {
+            QVERIFY2(m->g_OrbitListeHTMStr.contains(teil), qPrintable(teil));
         }
-        QVERIFY(!m->g_OrbitListeHTMStr.contains(">257. ("));
+        malen(*m, "g_ZwillingJa=0 MP_x=0 MP_y=0 Max_Iterationen=300 g_maxOrbitIterat=300");
+        QVERIFY(m->g_OrbitListeHTMStr.contains(">257. ("));
+        QVERIFY(!m->g_OrbitListeHTMStr.contains(">258. ("));
     }
 };
 
