@@ -47,8 +47,5 @@ inline double feldwert(const Mandelbrot& m, Feld feld) {
 
 /// wert must be one that the field's type holds.
 inline void setzeFeld(Mandelbrot& m, Feld feld, double wert) {
-    const auto setze = [wert](auto& ziel) {
-        ziel = static_cast<std::remove_reference_t<decltype(ziel)>>(wert);
-    };
-    std::visit([&](auto zeiger) { setze(m.*zeiger); }, feld);
+    std::visit([&](auto z) { m.*z = static_cast<std::decay_t<decltype(m.*z)>>(wert); }, feld);
 }

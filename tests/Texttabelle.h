@@ -22,6 +22,14 @@ inline std::map<QString, double> zahlen(const QString& werte) {
     return zahlen;
 }
 
+inline QList<int> ganze(const QString& text) {
+    QList<int> werte;
+    for (const QString& wort : text.split(' ')) {
+        werte << wort.toInt();
+    }
+    return werte;
+}
+
 inline void setze(M& m, const QString& werte) {
     for (const auto& [name, wert] : zahlen(werte)) {
         setzeFeld(m, Felder.at(name), wert);
@@ -33,7 +41,7 @@ inline QString abweichung(const M& m, const QString& soll) {
     QString text;
     for (const auto& [name, wert] : zahlen(soll)) {
         const double ist = feldwert(m, Felder.at(name));
-        if (ist != wert && !(std::isnan(ist) && std::isnan(wert))) {
+        if (ist != wert) {
             text += QString("%1 = %2; ").arg(name).arg(ist, 0, 'g', 17);
         }
     }

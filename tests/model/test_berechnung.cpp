@@ -1,5 +1,4 @@
 #include "Bildprobe.h"
-#include "model/Platzierung.h"
 
 #include <complex>
 
@@ -52,29 +51,12 @@ QString falscherZaehler(const M& m, const Bild& bild, const QList<int>& rechteck
     return {};
 }
 
-QList<int> ganze(const QString& text) {
-    QList<int> werte;
-    for (const QString& wort : text.split(' ')) {
-        werte << wort.toInt();
-    }
-    return werte;
-}
-
 } // namespace
 
 class TestBerechnung : public QObject {
     Q_OBJECT
 
   private Q_SLOTS:
-    void plaetze_data() { zeilenAus("model/platzierung.txt"); }
-    void plaetze() {
-        QFETCH(QStringList, spalten);
-        const QList<int> g = ganze(spalten[1]);
-        const Rechteck r =
-            platzierung(spalten[0].toInt(), {g[0], g[1], g[0] / 2, g[1] / 2, g[2], g[3]});
-        QCOMPARE((QList<int>{int(r.x0), int(r.x1), int(r.y0), int(r.y1)}), ganze(spalten[2]));
-    }
-
     void bild_data() { zeilenAus("model/bilder.txt"); }
     void bild() {
         QFETCH(QStringList, spalten);
@@ -111,12 +93,12 @@ class TestBerechnung : public QObject {
     }
 
     void loeschen() {
-        for (const auto& [art, orbit, anzahl] :
-             std::initializer_list<std::array<int, 3>>{{1, 0, 0}, {2, 0, 50}, {2, 1, 50}}) {
+        for (const QString felder :
+             {"g_BildLoeschen=1", "g_BildLoeschen=2", "g_BildLoeschen=2 g_OrbitJa=1"}) {
             const auto m = bildprobe(60, 40);
-            m->g_OrbitJa = orbit;
             malen(*m);
-            m->g_BildLoeschen = art;
+            setze(*m, felder);
+            const int anzahl = m->g_BildLoeschen == 1 ? 0 : 50;
             for (int mal = 0; mal < 2; ++mal) { // and stays cleared
                 malen(*m);
                 QCOMPARE(abweichung(*m, "g_BildLoeschen=0 wahl_Gleichung=1"), QString());
@@ -148,16 +130,9 @@ class TestBerechnung : public QObject {
     void absurd_data() { zeilenAus("model/absurd.txt"); }
     void absurd() {
         QFETCH(QStringList, spalten);
-        for (const QString ganz :
-             {"g_PixConstX=2147483647 g_PixConstY=2147483647 g_PixVorschauX=1 g_halbesBild=14",
-              "wahl_Gleichung=-5 g_PixConstX=-1 g_PixConstY=-1 zahl_Matrix=1000 OPx=-9 OPy=-9",
-              "wahl_Gleichung=90000000 g_PixConstX=3 g_PixConstY=3 zahl_Matrix=-7 OPx=5 OPy=5",
-              "wahl_Gleichung=99 zahl_Matrix=1000 OPx=2147483647 OPy=2147483647 g_halbesBild=400",
-              "wahl_Gleichung=8 g_PixConstX=5000 g_PixConstY=5000 zahl_Matrix=2147483647",
-              "wahl_Gleichung=511 g_halbesBild=2147483647 OPx=-2147483647 OPy=-2147483647",
-              "Max_Iterationen=300 OPx=5 OPy=20 g_maxOrbitIterat=2000000000"}) {
+        for (const QStringList& ganz : tabelle("model/absurde_ganze.txt")) {
             const auto m = bildprobe(50, 40);
-            setze(*m, "Max_Iterationen=3 g_GitterJa=1 " + ganz + " " + spalten[0]);
+            setze(*m, "Max_Iterationen=3 g_GitterJa=1 " + ganz[0] + " " + spalten[0]);
             for (const char* anforderung :
                  {"g_RechnenJa=1", "g_RechnenJa=3", "g_RechnenJa=2 g_OrbitJa=5 g_OrbitDuennJa=20",
                   "g_RechnenJa=0 g_OrbitJa=0"}) {

@@ -25,10 +25,11 @@ class TestOrbit : public QObject {
   private Q_SLOTS:
     void punkte() {
         // most points, from which iteration on, points recorded of 20 iterations
-        for (const auto& [hoechstens, ab, anzahl] : std::initializer_list<std::array<int, 3>>{
-                 {256, 0, 19}, {5, 0, 5}, {256, 9, 10}, {0, 0, 0}, {-8, 0, 0}}) {
+        for (const QString zeile : {"256 0 19", "5 0 5", "256 9 10", "0 0 0", "-8 0 0"}) {
+            const QList<int> zahl = ganze(zeile);
+            const int ab = zahl[1], anzahl = zahl[2];
             const auto m = orbitprobe(Innen + "Max_Iterationen=20", {256, 192});
-            m->g_maxOrbitIterat = hoechstens;
+            m->g_maxOrbitIterat = zahl[0];
             m->g_OrbitAbIterAn = ab;
             malen(*m);
             QCOMPARE(m->OZaehler, anzahl);
@@ -63,8 +64,8 @@ class TestOrbit : public QObject {
     void lage_data() { zeilenAus("model/orbitlage.txt"); }
     void lage() {
         QFETCH(QStringList, spalten);
-        const QStringList zahl = spalten[1].split(' ');
-        const QRectF r(zahl[0].toInt(), zahl[1].toInt(), zahl[2].toInt(), zahl[3].toInt());
+        const QList<int> zahl = ganze(spalten[1]);
+        const QRectF r(zahl[0], zahl[1], zahl[2], zahl[3]);
         const auto m = bildprobe(416, 320);
         setze(*m, "MP_x=-0.9 MP_y=0.2 Br_x=2.5 g_maxOrbitIterat=6 " // jumps to and fro
                   "g_PixVorschauX=160 g_PixVorschauY=80 g_RechnenJa=1 " +
@@ -93,26 +94,22 @@ class TestOrbit : public QObject {
             QCOMPARE(malen(*m).pixelColor(60, 40).name(), farben[farbe % 77]);
         }
         // kind, kind afterwards, is the orbit drawn before seen, thick
-        for (const auto& [art, danach, alle, dick] :
-             std::initializer_list<std::array<int, 4>>{{0, 0, 0, 1},
-                                                       {1, 1, 0, 0},
-                                                       {20, 20, 1, 1},
-                                                       {21, 21, 1, 0},
-                                                       {200, 0, 0, 1},
-                                                       {201, 1, 0, 0}}) {
+        for (const QString zeile :
+             {"0 0 0 1", "1 1 0 0", "20 20 1 1", "21 21 1 0", "200 0 0 1", "201 1 0 0"}) {
+            const QList<int> z = ganze(zeile);
             const auto m = orbitprobe("g_OrbitJa=0 g_maxOrbitIterat=2");
             const QImage ohne = malen(*m);
             malen(*m, "g_OrbitJa=5 OPx=40 OPy=100");
             malen(*m, "OPx=150 OPy=20");
-            m->g_OrbitDuennJa = art;
+            m->g_OrbitDuennJa = z[0];
             const QImage bild = malen(*m);
-            QCOMPARE(m->g_OrbitDuennJa, danach);
-            QCOMPARE(bild.pixel(40, 100) != ohne.pixel(40, 100), alle == 1);
-            QCOMPARE(bild.pixelColor(150, 20).name() == "#ffff00", dick == 0);
-            QCOMPARE(bild.pixelColor(150, 21).name() == "#5050ff", dick == 1);
-            QCOMPARE(bild.pixelColor(151, 20).name() == "#00ff00", dick == 1);
-            QCOMPARE(bild.pixelColor(151, 21).name() == "#ff0000", dick == 1);
-            QVERIFY(art < 200 || m->polygonPathM1.elementCount() == 1 + m->OZaehler);
+            QCOMPARE(m->g_OrbitDuennJa, z[1]);
+            QCOMPARE(bild.pixel(40, 100) != ohne.pixel(40, 100), z[2] == 1);
+            QCOMPARE(bild.pixelColor(150, 20).name() == "#ffff00", z[3] == 0);
+            QCOMPARE(bild.pixelColor(150, 21).name() == "#5050ff", z[3] == 1);
+            QCOMPARE(bild.pixelColor(151, 20).name() == "#00ff00", z[3] == 1);
+            QCOMPARE(bild.pixelColor(151, 21).name() == "#ff0000", z[3] == 1);
+            QVERIFY(z[0] < 200 || m->polygonPathM1.elementCount() == 1 + m->OZaehler);
         }
     }
 
@@ -137,14 +134,12 @@ class TestOrbit : public QObject {
         malen(*m);
         const auto werte = std::make_unique<M::Bild<double>>(m->ImageDoubles);
         const auto zaehler = std::make_unique<M::Bild<qint32>>(m->ImageIntegers);
-        m->ImageIntegers[76].fill(-77);
+        std::fill_n(m->ImageIntegers[76].begin(), 201, -77);
         malen(*m, Innen + "g_OrbitJa=1 g_RechnenJa=2");
-        for (std::size_t zeile = 1; zeile <= 151; ++zeile) {
-            QVERIFY(std::equal(&m->ImageDoubles[zeile][0], &m->ImageDoubles[zeile][201],
-                               &(*werte)[zeile][0]));
-            QVERIFY(std::equal(&m->ImageIntegers[zeile][0], &m->ImageIntegers[zeile][201],
-                               &(*zaehler)[zeile][0]));
-        }
+        m->ImageDoubles[0] = (*werte)[0]; // no picture row
+        m->ImageIntegers[0] = (*zaehler)[0];
+        QVERIFY(m->ImageDoubles == *werte);
+        QVERIFY(m->ImageIntegers == *zaehler);
         m->ImageIntegers[76][95] = -77;
         malen(*m, "g_RechnenJa=0");
         QCOMPARE(m->ImageIntegers[76][95], -77);

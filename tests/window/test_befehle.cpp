@@ -55,25 +55,6 @@ void erwarte(Stand& stand, const QString& worte) {
     }
 }
 
-/// Fields before a command: none is 0 or what a command leaves, so that every writing shows.
-const char* const Grundstand =
-    "MP_x=1 MP_y=2 Br_x=4 Br_y=9 R_Min=9 R_Max=9 I_Min=9 I_Max=9 CJ_x=5 CJ_y=6 Koppl_x=3 "
-    "Koppl_y=0.5 "
-    "wert_Abbruch=8 click2_Zoom=2 div_Factor=3 konv_Factor=5 it_Factor=7 g_Genauigkeit=0.5 "
-    "g_Gitterabstand=9 "
-    "g_SummeGross=9 g_SummeViertel=9 g_Bildverhaeltnis=0.875 TeilerColorbild=9 Max_Iterationen=64 "
-    "kPotHg=9 kPotHu=9 "
-    "rechen_VarianteDiv=6 rechen_VarianteKonv=6 wahl_Gleichung=101 g_ZwillingJa=3 color_Offset=40 "
-    "g_Max_rgbFarben=512 "
-    "zahl_farbtab=14 Palettenzahl=3 wahlPalette48=9 glg_Abbruch=3 g_Max_glg_Abbruch=9 "
-    "zahl_Matrix=22 Schieber=300 "
-    "g_MittelkreuzJa=9 g_NullkreuzJa=9 g_GitterJa=9 g_linienLoeschenJa=9 g_JuliaJa=9 g_GenauJa=9 "
-    "g_RechnenJa=9 "
-    "g_halbesBild=3 g_oberesHalbbild=9 g_BildLoeschen=9 g_UnDo=9 g_kPotenz=9 g_zycmax=9 OPx=101 "
-    "OPy=-51 "
-    "g_VorschauAusJa=9 g_PixVorschauX=90 g_PixVorschauY=91 g_PixConstX=92 g_PixConstY=93 "
-    "g_OrbitJa=4 g_OrbitDuennJa=1 g_maxOrbitIterat=9 g_OrbitMP=9 g_OrbitAbIterAn=9 ";
-
 QString unterschied(const Stand& ist, const Stand& soll) {
     QString text;
     for (const auto& [name, wert] : ist) {
@@ -241,7 +222,11 @@ class TestBefehle : public QObject {
         for (const auto& [name, label] : labels()) {
             label->setText("old");
         }
-        for (const auto& [name, wert] : zahlen(Grundstand + worte)) {
+        QString grundstand;
+        for (const QStringList& zeile : tabelle("window/grundstand.txt")) {
+            grundstand += zeile[0] + ' ';
+        }
+        for (const auto& [name, wert] : zahlen(grundstand + worte)) {
             if (name == "Schieber") {
                 const QSignalBlocker stumm(fenster.colShift_Slider);
                 fenster.colShift_Slider->setValue(int(wert));

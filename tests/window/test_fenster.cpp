@@ -141,24 +141,17 @@ class TestFenster : public QObject {
         QCOMPARE(ui->UI_itFactor->value(), 1.12346);
     }
 
-    void groessen_data() {
-        QTest::addColumn<QByteArray>("slot");
-        QTest::addColumn<QSize>("fenster");
-        QTest::newRow("start") << QByteArray() << QSize(985, 675);
-        QTest::newRow("small") << QByteArray("Pixel520x600Slot") << QSize(520, 600);
-        QTest::newRow("back") << QByteArray("Pixel985x675Slot") << QSize(985, 675);
-        QTest::newRow("large") << QByteArray("Pixel1520x1210Slot") << QSize(1520, 1210);
-    }
+    void groessen_data() { zeilenAus("window/groessen.txt"); }
     void groessen() {
-        QFETCH(QByteArray, slot);
-        QFETCH(QSize, fenster);
+        QFETCH(QStringList, spalten);
+        const QSize fenster(spalten[1].toInt(), spalten[2].toInt());
         ui->show();
         QVERIFY(QTest::qWaitForWindowExposed(ui.get()));
         QVERIFY(!ui->windowFlags().testFlag(Qt::WindowMaximizeButtonHint));
         const QPointer<Mandelbrot> vorgaenger = ui->Menge;
-        if (!slot.isEmpty()) {
+        if (!spalten[0].isEmpty()) {
             ui->Menge->MP_x = 17.0;
-            QVERIFY(QMetaObject::invokeMethod(ui.get(), slot.constData()));
+            QVERIFY(QMetaObject::invokeMethod(ui.get(), spalten[0].toUtf8().constData()));
             QTRY_VERIFY(vorgaenger.isNull());
             QCOMPARE(ui->UI_MPx->value(), -0.5);
         }
