@@ -14,28 +14,6 @@ QRgb farbeVon(qint64 nummer) {
     return qRgb(reihe % 256, reihe / 256, 77);
 }
 
-/// Family of the mark by the plain rule, in which every line of a grid is tried at every pixel: 1
-/// centre cross, 2 zero cross, 3 zero grid, 4 centre grid.
-int markenfamilie(const M& m, double S, double x, double y) {
-    const double g = m.g_Gitterabstand;
-    const bool null = m.g_GitterJa == 1;
-    const int n = m.g_GitterJa > 0 && g > 0 ? int(m.Br_x / g / m.g_GitterJa) : 0;
-    int familie = 0;
-    for (int k = -n; k < n; ++k) {
-        const double linieX = null ? (int(m.MP_x / g) + k) * g : m.MP_x + k * g;
-        const double linieY = null ? (int(m.MP_y / g) + k) * g : m.MP_y + k * g;
-        if (std::abs(x - linieX) < S / 2 || std::abs(y - linieY) < S / 2) {
-            familie = 2 + m.g_GitterJa;
-        }
-    }
-    const auto kreuz = [&](double mitteX, double mitteY) {
-        return (x <= mitteX + S && x >= mitteX - S) || (y <= mitteY + S && y >= mitteY - S);
-    };
-    familie = m.g_MittelkreuzJa == 1 && kreuz(m.MP_x, m.MP_y) ? 1 : familie;
-    familie = m.g_NullkreuzJa == 1 && kreuz(0, 0) ? 2 : familie;
-    return m.g_linienLoeschenJa == 5 ? 0 : familie;
-}
-
 } // namespace
 
 class TestEinfaerbung : public QObject {
@@ -51,11 +29,9 @@ class TestEinfaerbung : public QObject {
   private Q_SLOTS:
     void init() {
         m = bildprobe(40, 30);
-        for (std::size_t i = 0; i < 512; ++i) {
-            const QRgb f = farbeVon(static_cast<qint64>(i));
-            m->colormapWave[3 * i] = static_cast<quint8>(qRed(f));
-            m->colormapWave[3 * i + 1] = static_cast<quint8>(qGreen(f));
-            m->colormapWave[3 * i + 2] = static_cast<quint8>(qBlue(f));
+        for (std::size_t i = 0; i < 3 * 512; ++i) {
+            const std::array<std::size_t, 3> farbe{i / 3 % 256, i / 3 / 256, 77};
+            m->colormapWave[i] = static_cast<quint8>(farbe[i % 3]);
         }
         setze(*m, "zahl_farbtab=0 zahl_Matrix=11 color_Offset=0 it_Factor=1 div_Factor=50 "
                   "konv_Factor=700 wert_Abbruch=4 Max_Iterationen=100 rechen_VarianteDiv=2 "
@@ -109,30 +85,17 @@ class TestEinfaerbung : public QObject {
     void marken_data() { zeilenAus("model/gitter.txt"); }
     void marken() {
         QFETCH(QStringList, spalten);
-        for (int schalter = 0; schalter < 12; ++schalter) {
-            m->g_GitterJa = schalter / 4;
-            m->g_MittelkreuzJa = schalter & 1;
-            m->g_NullkreuzJa = (schalter >> 1) & 1;
-            const QImage bild = faerben("g_RechnenJa=2 " + spalten[0]);
-            const double S = m->Br_x / 40;
-            QSet<int> arten;
-            double y = m->I_Max;
-            for (int zeile = 0; zeile < 30; ++zeile) {
-                double x = m->R_Min;
-                for (int spalte = 0; spalte < 40; ++spalte) {
-                    const int marke =
-                        m->ImageGitterIntegers[std::size_t(zeile) + 1][std::size_t(spalte)];
-                    QCOMPARE(marke / 100, markenfamilie(*m, S, x, y));
-                    QCOMPARE(bild.pixel(spalte, zeile) == m->FarbeKreuze(quint32(marke)).rgb(),
-                             marke != 0);
-                    arten << marke % 100;
-                    x += S;
-                }
-                y -= S;
-            }
-            // Every line alternates between two colours.
-            QCOMPARE(arten.contains(1), arten.contains(2));
+        m = bildprobe(16, 12);
+        const QImage bild = malen(*m, "MP_x=-0.5 MP_y=0.25 Br_x=4 " + spalten[0]);
+        QString ist;
+        for (int i = 0; i < 16 * 12; ++i) {
+            const int x = i % 16, y = i / 16;
+            const int marke = m->ImageGitterIntegers[std::size_t(y) + 1][std::size_t(x)];
+            const QChar art = QString(".abcd")[marke / 100];
+            ist += QString(x == 0 && y > 0 ? " " : "") + (marke % 2 == 0 ? art.toUpper() : art);
+            QVERIFY(marke == 0 || bild.pixel(x, y) == m->FarbeKreuze(quint32(marke)).rgb());
         }
+        QCOMPARE(ist, spalten[1]);
     }
 };
 
