@@ -1,286 +1,170 @@
 #include "Bezugskern.h"
 
-#include "Mandelbrot.h"
+#include <algorithm>
 
-using C = std::complex<double>;
-
-const std::vector<qint32>& alleGleichungen() {
-    static const std::vector<qint32> liste = [] {
-        std::vector<qint32> alle;
-        for (qint32 n = 1; n <= 10; ++n) {
-            alle.push_back(n);
-        }
-        // First and last hundreds digit of each family.
-        constexpr qint32 familien[][3] = {{1, 1, 5}, {3, 1, 7}, {5, 1, 7},
-                                          {7, 1, 7}, {9, 1, 9}, {11, 1, 9}};
-        for (const auto& f : familien) {
-            for (qint32 h = f[1]; h <= f[2]; ++h) {
-                alle.push_back(100 * h + f[0]);
-                alle.push_back(100 * h + f[0] + 1);
-            }
-        }
-        return alle;
-    }();
-    return liste;
+std::unique_ptr<M> kernmodell() {
+    auto m = std::make_unique<M>();
+    m->g_Max_glg_Abbruch = 9;
+    m->glg_Abbruch = 1;
+    m->wert_Abbruch = 400.0;
+    m->g_zycmax = 7;
+    m->g_Max_rgbFarben = 582;
+    m->g_Genauigkeit = 0.0001;
+    m->Orbitmodus = 0;
+    m->g_kPotenz = 10;
+    m->kPotHg = 5;
+    m->kPotHu = 4;
+    m->Koppl_x = 0.2;
+    m->Koppl_y = 0.1;
+    m->Max_Iterationen = 256;
+    m->wahl_Gleichung = 1;
+    return m;
 }
 
-void Bezugskern::uebertragen(Mandelbrot& m) const {
-    m.wahl_Gleichung = gleichung;
-    m.g_ZwillingJa = zwilling;
-    m.Max_Iterationen = grenze;
-    m.glg_Abbruch = art;
-    m.g_Max_glg_Abbruch = 9;
-    m.g_zycmax = zycmax;
-    m.g_Max_rgbFarben = farben;
-    m.g_kPotenz = k;
-    m.kPotHg = hg;
-    m.kPotHu = hu;
-    m.Koppl_x = kx;
-    m.Koppl_y = ky;
-    m.wert_Abbruch = wert;
-    m.g_Genauigkeit = genau;
-    m.CJ_x = cjx;
-    m.CJ_y = cjy;
-    m.xm = xm;
-    m.ym = ym;
-    m.g_GenauJa = genauJa;
-    m.Orbitmodus = 0;
+void uebertragen(const M& von, M& nach) {
+    const auto kopieren = [&](const auto& felder) {
+        for (const auto feld : felder) {
+            nach.*feld = von.*feld;
+        }
+    };
+    kopieren(Ganze);
+    kopieren(Reelle);
+    kopieren(Verlaeufe);
 }
 
-QString Bezugskern::unterschied(const Mandelbrot& m) const {
-    if (m.privateIterat != zaehler) {
-        return QStringLiteral("count %1 instead of %2").arg(m.privateIterat).arg(zaehler);
-    }
-    const std::pair<const char*, bool> felder[] = {{"g_ZwillingJa", m.g_ZwillingJa == zwilling},
-                                                   {"g_kPotenz", m.g_kPotenz == k},
-                                                   {"g_zycmax", m.g_zycmax == zycmax},
-                                                   {"Koppl_x", bitgleich(m.Koppl_x, kx)},
-                                                   {"CJ_x", bitgleich(m.CJ_x, cjx)},
-                                                   {"CJ_y", bitgleich(m.CJ_y, cjy)},
-                                                   {"g_GenauJa", m.g_GenauJa == genauJa}};
-    for (const auto& [name, gleich] : felder) {
-        if (!gleich) {
-            return QString::fromLatin1(name);
+QString unterschied(const M& ist, const M& soll) {
+    for (const auto feld : Ganze) {
+        if (ist.*feld != soll.*feld) {
+            return QString("whole number %1 instead of %2").arg(ist.*feld).arg(soll.*feld);
         }
     }
-    for (std::size_t i = 0; i < xm.size(); ++i) {
-        if (!bitgleich(m.xm[i], xm[i]) || !bitgleich(m.ym[i], ym[i])) {
-            return QStringLiteral("history %1").arg(i);
+    for (const auto feld : Reelle) {
+        if (!bitgleich(ist.*feld, soll.*feld)) {
+            return QString("number %1 instead of %2").arg(ist.*feld).arg(soll.*feld);
         }
     }
-    return {};
+    const bool verlauf = std::ranges::all_of(Verlaeufe, [&](const auto feld) {
+        return std::ranges::equal(ist.*feld, soll.*feld, bitgleich);
+    });
+    return verlauf ? QString() : QString("history");
 }
 
 double Bezugskern::betrag() {
-    const double x = z.real();
-    const double y = z.imag();
-    const double h = x * x - y * y;
-    genauJa = art == 4 || art == 5 ? 1 : 0;
-    switch (art) {
-    case 0:
-        return std::sqrt(x * x + y * y);
-    case 1:
-        return x * x + y * y;
-    case 2:
-        return std::fabs(x) + std::fabs(y);
-    case 3:
-        return x + y;
-    case 6:
-        return h;
-    case 7:
-        return h * h;
-    case 8:
-        return h * h * h;
-    case 9:
-        return h * h * h * h;
-    default:
-        break;
+    const double x = z.real(), y = z.imag(), h = x * x - y * y;
+    const double masse[] = {std::sqrt(x * x + y * y),
+                            x * x + y * y,
+                            std::fabs(x) + std::fabs(y),
+                            x + y,
+                            0.0,
+                            0.0,
+                            h,
+                            h * h,
+                            h * h * h,
+                            h * h * h * h};
+    const bool delta = m.glg_Abbruch == 4;
+    m.g_GenauJa = delta || m.glg_Abbruch == 5 ? 1 : 0;
+    if (m.g_GenauJa == 0) {
+        return masse[m.glg_Abbruch];
     }
-    double rq = -genau;
-    for (int i = 0; i <= zycmax; ++i) {
-        const auto j = static_cast<std::size_t>(i);
-        const double dd = std::fabs(xm[j] - x) + std::fabs(ym[j] - y);
-        if (genau > dd) {
-            rq = art == 4 ? 100.0 + 2 * (farben * (dd / genau)) : (i + 1) * (farben / zycmax) + 100;
-            break;
+    double rq = -m.g_Genauigkeit;
+    const auto xm = m.xm.begin(), ym = m.ym.begin();
+    for (int i = m.g_zycmax; i >= 0; --i) { // the most recent match stays
+        const double dd = std::fabs(xm[i] - x) + std::fabs(ym[i] - y);
+        if (dd < m.g_Genauigkeit) {
+            rq = delta ? 100.0 + 2 * (m.g_Max_rgbFarben * (dd / m.g_Genauigkeit))
+                       : (i + 1) * (m.g_Max_rgbFarben / m.g_zycmax) + 100;
         }
     }
-    for (auto j = static_cast<std::size_t>(zycmax); j > 0; --j) {
-        xm[j] = xm[j - 1];
-        ym[j] = ym[j - 1];
-    }
-    xm[0] = x;
-    ym[0] = y;
+    std::rotate(xm, xm + m.g_zycmax, xm + m.g_zycmax + 1);
+    std::rotate(ym, ym + m.g_zycmax, ym + m.g_zycmax + 1);
+    *xm = x;
+    *ym = y;
     return rq;
 }
 
-C Bezugskern::reellGekoppelt(bool haupt) const {
-    const double px = kx, py = ky;
-    if (haupt) {
-        const double p = w.real(), t = w.imag(), Cx = c.real(), Cy = c.imag();
-        if (zwilling == 5 && (gleichung == 3 || gleichung == 4)) {
-            return {(1 + (px * p - py * t)) * Cx, (1 + (px * t + py * p)) * Cy};
-        }
-        switch (zwilling) {
-        case 1:
-            return {px * p + Cx, py * t + Cy};
-        case 2:
-            return {(1 + px * p) * Cx, (1 - py * t) * Cy};
-        case 3:
-            return {(1 + px * p) * Cx, (1 + py * t) * Cy};
-        case 4:
-            return {px * p - py * t + Cx, py * p + px * t + Cy};
-        case 5:
-            return {Cx * px * p - Cy * px * t + Cx, Cy * px * p + Cx * px * t + Cy};
-        case 6:
-            return {Cx * px * p - Cy * px * t + Cx, Cy * py * p + Cx * py * t + Cy};
-        default:
-            return c;
-        }
-    }
-    const double x = z.real(), y = z.imag(), Cp = cw.real(), Ct = cw.imag();
-    switch (zwilling) {
-    case 1:
-        return {Cp - px * x, Ct - py * y};
-    case 2:
-        return {(1 + px * x) * Cp, (1 - py * y) * Ct};
-    case 3:
-        return {(1 - px * x) * Cp, (1 - py * y) * Ct};
+C Bezugskern::gekoppelt(C v, C k, double vorzeichen) const {
+    const double kx = vorzeichen * m.Koppl_x, ky = vorzeichen * m.Koppl_y;
+    const C eins(1, 0), schraeg(1, 1), produkt = C(kx, ky) * v;
+    const double x = v.real(), y = v.imag(), a = k.real(), b = k.imag();
+    switch (gleichung > 99 ? m.g_ZwillingJa : 0) { // in complex arithmetic alone
     case 4:
-        return {Cp - (px * x - py * y), Ct - (px * y + py * x)};
+        return k + produkt;
     case 5:
-        return {Cp - (Cp * px * x - Ct * px * y), Ct - (Cp * px * y + Ct * px * x)};
-    case 6:
-        return {Cp - (Cp * px * x - Ct * px * y), Ct - (Cp * py * y + Ct * py * x)};
-    default:
-        return cw;
-    }
-}
-
-C Bezugskern::komplexGekoppelt(bool haupt) const {
-    if (zwilling <= 3 || zwilling == 6) {
-        return reellGekoppelt(haupt);
-    }
-    const C param(kx, ky), B1(1, 0), B11(1, 1);
-    const C& v = haupt ? w : z;
-    const C produkt = param * v;
-    switch (zwilling) {
-    case 4:
-        return haupt ? c + produkt : c - produkt;
-    case 5:
-        return haupt ? c * (B1 + kx * v) : c * (B1 - kx * v);
+        return k * (eins + kx * v);
     case 7:
-        return haupt ? c * (B11 + kx * v) : c * (B11 - kx * v);
+        return k * (schraeg + kx * v);
     case 8:
-        return haupt ? c * (B1 + produkt) : c * (B1 - produkt);
+        return k * (eins + produkt);
     case 9:
-        return haupt ? c * (B11 + produkt) : c * (B11 - produkt);
+        return k * (schraeg + produkt);
     case 10:
-        return c * (B11 + produkt);
+        return k * (schraeg + vorzeichen * produkt);
     case 11:
-        return c * (B11 - produkt);
+        return k * (schraeg - vorzeichen * produkt);
     default:
-        return c;
+        break;
+    }
+    const bool auge = vorzeichen > 0 && (gleichung == 3 || gleichung == 4);
+    switch (m.g_ZwillingJa) {
+    case 1:
+        return {kx * x + a, ky * y + b};
+    case 2:
+        return {(1 + m.Koppl_x * x) * a, (1 - m.Koppl_y * y) * b};
+    case 3:
+        return {(1 + kx * x) * a, (1 + ky * y) * b};
+    case 4:
+        return k + produkt;
+    case 5:
+        return auge ? C((1 + produkt.real()) * a, (1 + produkt.imag()) * b)
+                    : C(a * kx * x - b * kx * y + a, b * kx * x + a * kx * y + b);
+    case 6:
+        return {a * kx * x - b * kx * y + a, b * ky * x + a * ky * y + b};
+    default:
+        return k;
     }
 }
 
 C Bezugskern::term(C u) const {
-    const C us = std::conj(u), m = u * us, q = u * u;
-    const int h = gleichung / 100;
-    switch (gleichung % 100) {
-    case 1:
-    case 2: {
-        const C werte[] = {q, q * u, q * q, q * q * u};
-        return h == 5 ? std::pow(u, k) : werte[h - 1];
+    const C us = std::conj(u), r = u * us, q = u * u;
+    if (familie == 7 || familie == 8) {
+        const C exponenten[] = {us, u, -u, 1.0 / u, -us, 1.0 / us, u};
+        return std::pow(hunderter == 7 ? us : u, exponenten[hunderter - 1]);
     }
-    case 3:
-    case 4: {
-        const C werte[] = {u * us, m * u, us * m, m * m};
-        return h <= 4 ? werte[h - 1]
-                      : (h == 5 ? std::pow(m, hg)
-                                : (h == 6 ? std::pow(m, hu) * u : us * std::pow(m, hu)));
-    }
-    case 5:
-    case 6: {
-        const C werte[] = {q * u, q * q, q * q * u, q * q * q, C(), u, q};
-        return h == 5 ? std::pow(u, k) : werte[h - 1];
-    }
-    case 7:
-    case 8:
-        switch (h) {
-        case 1:
-            return std::pow(u, us);
-        case 2:
-            return std::pow(u, u);
-        case 3:
-            return std::pow(u, -u);
-        case 4:
-            return std::pow(u, 1.0 / u);
-        case 5:
-            return std::pow(u, -us);
-        case 6:
-            return std::pow(u, 1.0 / us);
-        default:
-            return std::pow(us, u);
-        }
-    default: {
-        const C werte[] = {m * u, u * m, m * m, m * m * u, C(), C(), C(), us, m};
-        switch (h) {
-        case 5:
-            return std::pow(m, hg);
-        case 6:
-            return std::pow(m, hu) * u;
-        case 7:
-            return us * std::pow(m, hu);
-        default:
-            return werte[h - 1];
-        }
-    }
-    }
-}
-
-bool Bezugskern::reellesBild(C& u, C a, bool haupt) const {
-    const double x = u.real(), y = u.imag();
-    if (gleichung <= 2) {
-        u = {x * x - y * y + a.real(), (x + x) * y + a.imag()};
-    } else if (gleichung <= 4) {
-        u = {y * y + x * x + a.real(), a.imag()};
-    } else if (gleichung <= 6) {
-        const double x2 = x * x - y * y, y2 = 2 * x * y;
-        const double x3 = x2 * x - y2 * y, y3 = y2 * x + x2 * y;
-        const double nx = x + a.real(), ny = y + a.imag();
-        const double dx = 1 + a.real() * x3 - a.imag() * y3, dy = a.imag() * x3 + a.real() * y3;
-        const double d = dx * dx + dy * dy;
-        u = {(ny * dy + nx * dx) / d, (ny * dx - nx * dy) / d};
-        return !(d < (haupt ? genau / 1e6 : 1e-10));
-    } else {
-        const double L = 1e290, r = std::sqrt(x * x + y * y), theta = std::atan2(y, x);
-        bool gut = !(r < 1 / L);
-        if (gut) {
-            const double m = std::pow(r, x) * std::exp(theta * y);
-            gut = !(m > L);
-            if (gut) {
-                const double phi = y * std::log(r) - theta * x;
-                u = {m * std::cos(phi), m * std::sin(phi)};
-            }
-        }
-        u = {u.real() + a.real(), u.imag() + a.imag()};
-        return gut;
-    }
-    return true;
+    const bool auge = familie == 3 || familie == 4 || familie > 10;
+    const qint32 n = !auge ? m.g_kPotenz : (hunderter == 5 ? m.kPotHg : m.kPotHu);
+    const C hoch = hunderter >= 5 && hunderter <= 7 ? std::pow(auge ? r : u, n) : C();
+    const C terme[][9] = {{q, q * u, q * q, q * q * u, hoch},
+                          {r, r * u, us * r, r * r, hoch, hoch * u, us * hoch},
+                          {q * u, q * q, q * q * u, q * q * q, hoch, u, q},
+                          {},
+                          {},
+                          {r * u, u * r, r * r, r * r * u, hoch, hoch * u, us * hoch, us, r}};
+    return terme[(familie - 1) / 2][hunderter - 1];
 }
 
 bool Bezugskern::bild(C& u, C a, bool haupt) const {
-    if (gleichung < 100) {
-        return reellesBild(u, a, haupt);
-    }
-    const int familie = gleichung % 100;
-    if (familie == 5 || familie == 6 || familie > 10) {
+    const double x = u.real(), y = u.imag();
+    if (gleichung <= 2) {
+        u = C(x * x - y * y, 2 * x * y) + a;
+    } else if (gleichung <= 4) {
+        u = C(x * x + y * y, 0) + a;
+    } else if (gleichung <= 6) {
+        const C u3 = C(x * x - y * y, 2 * x * y) * u, n = u + a;
+        const C d(1 + a.real() * u3.real() - a.imag() * u3.imag(), (a * u3).imag());
+        const double dd = d.real() * d.real() + d.imag() * d.imag();
+        u = n * std::conj(d) / dd;
+        return !(dd < (haupt ? m.g_Genauigkeit / 1e6 : 1e-10));
+    } else if (gleichung <= 8) {
+        const double r = std::sqrt(x * x + y * y), theta = std::atan2(y, x);
+        const double potenz = std::pow(r, x) * std::exp(theta * y);
+        const double phi = y * std::log(r) - theta * x;
+        const bool gut = !(r < 1e-290 || potenz > 1e290);
+        u = (gut ? C(potenz * std::cos(phi), potenz * std::sin(phi)) : u) + a;
+        return gut;
+    } else if (pol) {
         const C d = C(1, 0) + a * term(u);
-        if (!(std::fabs(d.real()) > 1e-20)) {
-            return false;
-        }
         u = (u + a) / d;
+        return std::fabs(d.real()) > 1e-20;
     } else {
         u = term(u) + a;
     }
@@ -288,167 +172,120 @@ bool Bezugskern::bild(C& u, C a, bool haupt) const {
 }
 
 Bezugskern::Schritt Bezugskern::newton() {
-    const int h = gleichung / 100;
-    const C zs = std::conj(z), q = z * z, v = q * q, m = z * zs, B = newtonB, A = newtonA;
-    C d, n;
-    if (gleichung % 100 == 9) {
-        const C nenner[] = {B * q * A,      B * q * A,      B * v * A, B * v * A,
-                            B * z * zs * A, B * z * zs * A, B * q * A};
-        const C zaehlerTerme[] = {q * z, q * z, v * z, v * z, q * z, z * zs * z, z * zs * z};
-        const C eins(1, 0);
-        if (h <= 7) {
-            d = nenner[h - 1];
-            n = zaehlerTerme[h - 1] - eins;
-        } else if (h == 8) {
-            d = B * std::pow(m, hg - 1) * A;
-            n = std::pow(m, hg) - eins;
-        } else {
-            d = B * zs * std::pow(m, hu - 1) * A;
-            n = zs * std::pow(m, hu) - eins;
-        }
-    } else if (h == 1) {
-        // K - 1 does not exist as an int for the smallest K: |K| + 1 is 2^31 + 1 then.
-        const bool kleinste = k == std::numeric_limits<qint32>::min();
-        C hoch = kleinste ? z : std::pow(z, k - 1);
-        if (kleinste) {
-            C quadrat = z;
-            for (int i = 0; i < 31; ++i) {
-                quadrat *= quadrat;
-            }
-            hoch = C(1) / (z * quadrat);
-        }
-        d = B * hoch * A;
-        n = std::pow(z, k) - newtonP;
-    } else {
-        const C nenner[] = {B * z * A,     B * q * A,     B * q * z * A,     B * v * A,
-                            B * v * z * A, B * v * q * A, B * v * q * z * A, B * v * v * A};
-        const C zaehlerTerme[] = {q, q * z, v, v * z, v * q, v * q * z, v * v, v * v * z};
-        d = nenner[h - 2];
-        n = zaehlerTerme[h - 2] - newtonP;
+    const int art = familie - 9; // 0: roots of 1
+    const C zs = std::conj(z), q = z * z, v = q * q, r = z * zs, B = newtonB;
+    const qint32 n = art == 1 ? m.g_kPotenz : (hunderter == 8 ? m.kPotHg : m.kPotHu);
+    C hoch, davor;
+    if (art == 1 ? hunderter == 1 : hunderter > 7) {
+        hoch = std::pow(art == 1 ? z : r, n);
+        davor = std::pow(art == 1 ? z : r, n - 1);
     }
-    if (!(std::fabs(d.real()) > 1e-290)) {
+    const C polynome[][9] = {{q * z, q * z, v * z, v * z, q * z, r * z, r * z, hoch, zs * hoch},
+                             {hoch, q, q * z, v, v * z, v * q, v * q * z, v * v, v * v * z}};
+    const C ableitungen[][9] = {
+        {B * q, B * q, B * v, B * v, B * z * zs, B * z * zs, B * q, B * davor, B * zs * davor},
+        {B * davor, B * z, B * q, B * q * z, B * v, B * v * z, B * v * q, B * v * q * z,
+         B * v * v}};
+    const C nenner = ableitungen[art][hunderter - 1] * newtonA;
+    if (!(std::fabs(nenner.real()) > 1e-290)) {
         return Schritt::Ungezaehlt;
     }
-    z = z - n / d;
+    z -= (polynome[art][hunderter - 1] - (art == 1 ? newtonP : 1.0)) / nenner;
     return Schritt::Gut;
 }
 
 Bezugskern::Schritt Bezugskern::hyperwurzel() {
-    // Componentwise in the two idempotents: z - iw and z + iw, here with complex variables.
-    const C r = zwilling > 0 ? reellGekoppelt(true) : c;
-    bool abbruch = false;
-    const auto newtonschritt = [&](double ex, double ey) -> C {
-        const double x2 = ex * ex - ey * ey, y2 = 2 * ex * ey;
-        const double nx = x2 * ex - y2 * ey - r.real(), ny = y2 * ex + x2 * ey - r.imag();
-        const double dx = 3 * x2, dy = 3 * y2, d = dx * dx + dy * dy;
-        abbruch = abbruch || d < 1e-20;
-        return {ex - (nx * dx + ny * dy) / d, ey - (ny * dx - nx * dy) / d};
+    // Componentwise in the two idempotents: z - iw and z + iw.
+    const C i(0, 1), r = gekoppelt(w, c, 1.0);
+    bool gut = true;
+    const auto newtonschritt = [&](C e) {
+        const C d = 3.0 * (e * e);
+        const double dd = d.real() * d.real() + d.imag() * d.imag();
+        gut = gut && !(dd < 1e-20);
+        return e - (e * e * e - r) * std::conj(d) / dd;
     };
-    const C minus = newtonschritt(z.real() + w.imag(), z.imag() - w.real());
-    const C plus = newtonschritt(z.real() - w.imag(), z.imag() + w.real());
-    z = {(minus.real() + plus.real()) / 2, (minus.imag() + plus.imag()) / 2};
-    w = {(plus.imag() - minus.imag()) / 2, (minus.real() - plus.real()) / 2};
-    return abbruch ? Schritt::Abbruch : Schritt::Gut;
+    const C minus = newtonschritt(z - i * w), plus = newtonschritt(z + i * w);
+    z = 0.5 * (minus + plus);
+    w = 0.5 * i * (minus - plus);
+    return gut ? Schritt::Gut : Schritt::Abbruch;
 }
 
 Bezugskern::Schritt Bezugskern::schritt() {
-    const int familie = gleichung < 100 ? 0 : gleichung % 100;
     if (familie == 9 || familie == 10) {
         return newton();
     }
     if (gleichung == 9 || gleichung == 10) {
         return hyperwurzel();
     }
-    C a = c, aw = cw;
-    if (zwilling > 0) {
-        a = familie == 0 ? reellGekoppelt(true) : komplexGekoppelt(true);
-        aw = familie == 0 ? reellGekoppelt(false) : komplexGekoppelt(false);
-    }
-    bool gut = bild(z, a, true);
-    if (zwilling > 0) {
+    const C aw = gekoppelt(z, cw, -1.0); // from the old main value
+    bool gut = bild(z, gekoppelt(w, c, 1.0), true);
+    if (m.g_ZwillingJa > 0) {
         const bool zwillingGut = bild(w, aw, false);
         gut = gleichung == 7 || gleichung == 8 ? zwillingGut : gut && zwillingGut;
     }
     return gut ? Schritt::Gut : Schritt::Abbruch;
 }
 
-void Bezugskern::newtonVorbereiten(double xqr, double yqr, double Cxqr, double Cyqr) {
-    for (double* v : {&xqr, &yqr, &Cxqr, &Cyqr}) {
-        if (std::fabs(*v) < 1e-20) {
-            *v = *v < 0 ? -1e-20 : 1e-20;
-        }
-    }
-    const int h = gleichung / 100;
-    newtonB = 3.0;
-    if (gleichung == 110 || gleichung == 809 || gleichung == 909) {
-        k = k == 0 ? 10 : k;
-        newtonB = static_cast<double>(k);
-    } else if (gleichung % 100 == 9) {
-        const C faktoren[] = {3.0, C(3, 3), 5.0, C(5, 5), 3.0, 3.0, 3.0};
-        newtonB = faktoren[h - 1];
-    } else {
-        newtonB = static_cast<double>(h);
-    }
-    kx = kx == 0.0 ? 1.0 : kx;
-    newtonP = {kx, ky};
-    if (gleichung % 100 == 9) {
-        z = {Cxqr, Cyqr};
-        newtonA = newtonP;
-    } else {
-        z = {xqr, yqr};
-        newtonA = {Cxqr == 1e-20 ? 1.0 : Cxqr, Cyqr};
-    }
+namespace {
+
+C abgerueckt(C v, double g) {
+    const auto teil = [g](double t) { return std::fabs(t) < g ? (t < 0 ? -g : g) : t; };
+    return {teil(v.real()), teil(v.imag())};
 }
 
-void Bezugskern::vorbereiten(double xqr, double yqr, double Cxqr, double Cyqr) {
-    const int familie = gleichung < 100 ? 0 : gleichung % 100;
-    const bool pol = familie == 5 || familie == 6 || familie > 10;
-    if (gleichung <= 2 && zwilling > 6) {
-        zwilling = 0;
-    } else if ((gleichung == 3 || gleichung == 4) && zwilling == 6) {
-        zwilling = 5;
-    } else if ((gleichung == 7 || gleichung == 8) && zwilling > 1) {
-        zwilling = 1;
+} // namespace
+
+void Bezugskern::newtonVorbereiten(C start, C konstante) {
+    const C pixel = abgerueckt(start, 1e-20), k = abgerueckt(konstante, 1e-20);
+    const C faktoren[][9] = {{3, C(3, 3), 5, C(5, 5), 3, 3, 3, m.g_kPotenz, m.g_kPotenz},
+                             {m.g_kPotenz, 2, 3, 4, 5, 6, 7, 8, 9}};
+    newtonB = faktoren[familie - 9][hunderter - 1];
+    m.Koppl_x = m.Koppl_x == 0.0 ? 1.0 : m.Koppl_x;
+    newtonP = {m.Koppl_x, m.Koppl_y};
+    z = w = familie == 9 ? k : pixel;
+    newtonA = familie == 9 ? newtonP : C(k.real() == 1e-20 ? 1.0 : k.real(), k.imag());
+}
+
+void Bezugskern::vorbereiten(C start, C konstante) {
+    gleichung = m.wahl_Gleichung;
+    familie = gleichung < 100 ? 0 : gleichung % 100;
+    hunderter = gleichung / 100;
+    pol = familie == 5 || familie == 6 || familie > 10;
+    const bool spinne = gleichung == 7 || gleichung == 8;
+    if (gleichung <= 2 && m.g_ZwillingJa > 6) {
+        m.g_ZwillingJa = 0;
+    } else if ((gleichung == 3 || gleichung == 4) && m.g_ZwillingJa == 6) {
+        m.g_ZwillingJa = 5;
+    } else if (spinne && m.g_ZwillingJa > 1) {
+        m.g_ZwillingJa = 1;
     }
-    if (gleichung == 7 || gleichung == 8 || pol || familie == 7 || familie == 8) {
-        const double g = genau / 10000;
-        xqr = std::fabs(xqr) < g ? (xqr < 0 ? -g : g) : xqr;
-        yqr = std::fabs(yqr) < g ? (yqr < 0 ? -g : g) : yqr;
-    }
-    const bool mitK =
-        (familie == 1 || familie == 2 || familie == 5 || familie == 6) && gleichung / 100 == 5;
-    if (mitK && k == 0) {
-        k = 10;
-    }
-    z = w = C(xqr, yqr);
-    c = cw = C(Cxqr, Cyqr);
+    const bool mitK = gleichung == 501 || gleichung == 502 || gleichung == 505 ||
+                      gleichung == 506 || gleichung == 110 || gleichung == 809 || gleichung == 909;
+    m.g_kPotenz = mitK && m.g_kPotenz == 0 ? 10 : m.g_kPotenz;
+    const bool abruecken = spinne || pol || familie == 7 || familie == 8;
+    z = w = abruecken ? abgerueckt(start, m.g_Genauigkeit / 10000) : start;
+    c = cw = konstante;
     if (gleichung == 8) {
-        c = {-1, 0};
-        cjx = -1;
-        cjy = 0;
+        c = m.CJ_x = -1;
+        m.CJ_y = 0;
     } else if (gleichung == 9) {
-        z = w = c;
+        z = w = konstante;
         c = 1.0;
     } else if (familie == 9 || familie == 10) {
-        newtonVorbereiten(xqr, yqr, Cxqr, Cyqr);
+        newtonVorbereiten(start, konstante);
     }
 }
 
-double Bezugskern::rechnen(double xqr, double yqr, double Cxqr, double Cyqr) {
-    vorbereiten(xqr, yqr, Cxqr, Cyqr);
+double Bezugskern::rechnen(C start, C konstante) {
+    vorbereiten(start, konstante);
     double rq = 0.0;
-    zaehler = 1;
-    for (;;) {
-        const Schritt s = schritt();
-        if (s != Schritt::Ungezaehlt) {
-            ++zaehler;
-        }
-        if (s != Schritt::Gut) {
-            return 0.0;
-        }
-        rq = betrag();
-        if (zaehler >= grenze || !(wert > rq)) {
-            return rq == -genau ? 0.0 : rq;
-        }
-    }
+    Schritt s = Schritt::Gut;
+    m.privateIterat = 1;
+    do {
+        s = schritt();
+        m.privateIterat += s == Schritt::Ungezaehlt ? 0 : 1;
+        rq = s == Schritt::Gut ? betrag() : 0.0;
+    } while (s == Schritt::Gut && m.privateIterat < m.Max_Iterationen && m.wert_Abbruch > rq);
+    m.IteratSubf = m.privateIterat;
+    return rq == -m.g_Genauigkeit ? 0.0 : rq;
 }

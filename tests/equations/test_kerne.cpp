@@ -1,143 +1,263 @@
 #include "Bezugskern.h"
+#include "equations/Gleichungen.h"
 #include "equations/Kernwahl.h"
-#include "Mandelbrot.h"
-#include "Testbasis.h"
+#include "equations/Zeilenkern.h"
+#include "Texttabelle.h"
 
-#include <memory>
+#include <algorithm>
 #include <random>
+
+#include <QCryptographicHash>
 
 namespace {
 
 constexpr qint32 Kleinste = std::numeric_limits<qint32>::min();
 constexpr qint32 Groesste = std::numeric_limits<qint32>::max();
 
+C komplex(const QString& text) {
+    return {text.section(',', 0, 0).toDouble(), text.section(',', 1).toDouble()};
+}
+
+void alleGleichungen() {
+    QTest::addColumn<qint32>("gleichung");
+    for (const Gleichung& gleichung : gleichungen()) {
+        QTest::addRow("%d", gleichung.nummer) << gleichung.nummer;
+    }
+}
+
 } // namespace
 
-/// Every kernel against the plain second implementation, to the bit.
+/// The catalogue, the bailout test and the point kernels: against the plain second implementation,
+/// to the bit, and against what the mathematics says.
 class TestKerne : public QObject {
     Q_OBJECT
 
-  private Q_SLOTS:
-    void kernwahl_data();
-    void kernwahl();
-    void gleichBezug_data();
-    void gleichBezug();
-    void ohneFormel_data();
-    void ohneFormel();
+    std::unique_ptr<M> m;
 
-  private:
-    std::unique_ptr<Mandelbrot> m = std::make_unique<Mandelbrot>();
-};
-
-void TestKerne::kernwahl_data() {
-    QTest::addColumn<qint32>("nummer");
-    QTest::addColumn<qint32>("gleicherKernWie"); // 0 = none
-    QTest::newRow("none below 1") << 0 << 0;
-    QTest::newRow("negative") << -101 << 0;
-    QTest::newRow("smallest") << Kleinste << 0;
-    QTest::newRow("between the two kinds") << 11 << 0;
-    QTest::newRow("99 is not complex") << 99 << 0;
-    QTest::newRow("family 0") << 100 << 0;
-    QTest::newRow("family 13") << 113 << 0;
-    QTest::newRow("Julia type") << 2 << 1;
-    QTest::newRow("pole eye shares the pole kernel") << 911 << 105;
-    QTest::newRow("family without that member") << 1007 << 108;
-    QTest::newRow("largest of a family") << 2147483609 << 110;
-}
-
-void TestKerne::kernwahl() {
-    QFETCH(qint32, nummer);
-    QFETCH(qint32, gleicherKernWie);
-    QVERIFY(kernFuer(nummer) == (gleicherKernWie == 0 ? nullptr : kernFuer(gleicherKernWie)));
-    QVERIFY(gleicherKernWie == 0 || kernFuer(nummer) != nullptr);
-}
-
-void TestKerne::gleichBezug_data() {
-    QTest::addColumn<qint32>("gleichung");
-    for (const qint32 n : alleGleichungen()) {
-        QTest::addRow("%d", n) << n;
+    double kern(C start, C c) {
+        return ((*m).*kernFuer(m->wahl_Gleichung))(start.real(), start.imag(), c.real(), c.imag());
     }
-    QCOMPARE(alleGleichungen().size(), std::size_t{98});
-}
+    [[nodiscard]] C orbitende() const {
+        const auto i = static_cast<std::size_t>(m->OZaehler);
+        return {m->OrbitX[i], m->OrbitY[i]};
+    }
+
+  private Q_SLOTS:
+    /// Orbits are recorded, and end at the limit alone.
+    void init() {
+        m = kernmodell();
+        m->wert_Abbruch = 1e300;
+        m->Orbitmodus = 2;
+        m->OZaehler = m->g_OrbitAbIterAn = 0;
+        m->g_maxOrbitIterat = 258;
+        m->xm.fill(1000.0);
+        m->ym.fill(1000.0);
+    }
+
+    // The names are fixed to the byte. The value is the checksum of the lines "number, tab, name",
+    // formed from the printed list.
+    void namenUnveraendert() {
+        QCryptographicHash summe(QCryptographicHash::Sha256);
+        for (const Gleichung& gleichung : gleichungen()) {
+            summe.addData(QByteArray::number(gleichung.nummer) + '\t' +
+                          QByteArray(gleichung.name.data(), qsizetype(gleichung.name.size())) +
+                          '\n');
+        }
+        QCOMPARE(summe.result().toHex(),
+                 QByteArray("4e83b06fee804a6ad40c162beb2ce1349843767b06818ec93da7de291b5a0a26"));
+    }
+
+    void nummer_data() { zeilenAus("equations/nummern.txt"); }
+    void nummer() {
+        QFETCH(QStringList, spalten);
+        const qint32 nummer = spalten[0].toInt(), kernWie = spalten[1].toInt();
+        QVERIFY(kernFuer(nummer) == kernFuer(kernWie));
+        QCOMPARE(kernFuer(nummer) == nullptr, kernWie == 0);
+        QCOMPARE(juliaPartner(nummer), spalten[2].toInt());
+        m->wahl_Gleichung = nummer;
+        m->EquationName();
+        QCOMPARE(m->g_NameGlg.section(' ', 0, 0), spalten[3]);
+        QVERIFY(m->g_NameGlg.contains(' '));
+    }
+
+    void abbruch_data() { zeilenAus("equations/abbruch.txt"); }
+    void abbruch() {
+        QFETCH(QStringList, spalten);
+        setze(*m, spalten[0]);
+        double rq = 0.0;
+        for (const QString& wert : spalten[1].split(' ')) {
+            const C z = komplex(wert); // the twin value handed in has no influence
+            rq = m->BetrQ_Varianten(z.real(), z.imag(), 77.0, qQNaN());
+        }
+        QVERIFY2(bitgleich(rq, spalten[2].toDouble()), qPrintable(QString::number(rq, 'g', 17)));
+        QCOMPARE(abweichung(*m, spalten[3]), QString());
+    }
+
+    void zyklusVoreinstellung() {
+        constexpr qint32 faelle[][3] = {{3, 7, 0},         {4, 7, 8},  {5, 0, 1},
+                                        {5, Groesste, 25}, {4, -1, 0}, {4, Kleinste, 0}};
+        for (const auto& [art, zycmax, eintraege] : faelle) {
+            m->glg_Abbruch = art;
+            m->g_zycmax = zycmax;
+            for (const auto verlauf : Verlaeufe) {
+                ((*m).*verlauf).fill(1.0);
+            }
+            zyklusVoreinstellen(*m, 0.5, -0.25);
+            for (const auto verlauf : Verlaeufe) {
+                const bool re = verlauf == &M::xm || verlauf == &M::pm;
+                const auto& v = (*m).*verlauf;
+                const auto fern = (re ? 0.5 : -0.25) + 1000.111;
+                QVERIFY(std::all_of(v.begin(), v.begin() + eintraege,
+                                    [fern](double w) { return w == fern; }));
+                QCOMPARE(std::count(v.begin(), v.end(), 1.0), 25 - eintraege);
+            }
+        }
+    }
+
+    void gleichBezug_data() { alleGleichungen(); }
+    void gleichBezug();
+
+    void fakten_data() { zeilenAus("equations/fakten.txt"); }
+    void fakten() {
+        QFETCH(QStringList, spalten);
+        setze(*m, "Max_Iterationen=3 Koppl_x=100 Koppl_y=0 g_Genauigkeit=0.01 " + spalten[0]);
+        const double rq = kern(komplex(spalten[1]), komplex(spalten[2]));
+        const qint32 getestet = spalten[3].toInt(), zaehler = spalten[4].toInt();
+        QCOMPARE(m->OZaehler, getestet);
+        QCOMPARE(m->privateIterat, zaehler);
+        QCOMPARE(rq == 0.0, getestet == 0 || zaehler > getestet + 1); // aborted
+        if (getestet > 0) {
+            QCOMPARE(m->OrbitX[std::size_t(getestet) + 1], M::OrbitEnde);
+        }
+        // The poles and powers push the start off the axes by 1e-6.
+        const C ende = orbitende();
+        QVERIFY2(spalten.value(5).isEmpty() || std::abs(ende - komplex(spalten[5])) < 1e-5,
+                 qPrintable(QString("%1 %2").arg(ende.real()).arg(ende.imag())));
+    }
+
+    void wurzeln_data();
+    void wurzeln();
+    void hyperwurzeln();
+
+    void unsinn_data() { alleGleichungen(); }
+    void unsinn();
+};
 
 void TestKerne::gleichBezug() {
     QFETCH(qint32, gleichung);
-    constexpr qint32 potenzen[] = {0, 2, 6, 7, 10, -3, Kleinste, Groesste};
+    constexpr qint32 potenzen[] = {0, 2, 6, 7, 10, -3, -Groesste, Groesste};
     constexpr qint32 grenzen[] = {50, 1, 50, 2, 50, 300, 3000};
-    constexpr double weiten[] = {2.0, 0.7, 20.0};
     constexpr double amNullpunkt[] = {0.0, -1e-21, 5e-9, -5e-9}; // where starts are pushed off
     std::mt19937 zufall(static_cast<unsigned>(gleichung));
     const auto koordinate = [&](double weite) {
         return zufall() % 16 == 0 ? amNullpunkt[zufall() % std::size(amNullpunkt)]
                                   : std::uniform_real_distribution<double>(-weite, weite)(zufall);
     };
-    const Kern kern = kernFuer(gleichung);
-    QVERIFY(kern);
-    std::size_t n = 0;
-    for (qint32 zwilling = -1; zwilling <= 13; ++zwilling) {
-        for (qint32 art = 0; art <= 9; ++art, ++n) {
-            Bezugskern b;
-            b.gleichung = gleichung;
-            b.zwilling = zwilling;
-            b.art = art;
-            b.grenze = grenzen[n % std::size(grenzen)];
-            b.k = potenzen[n % std::size(potenzen)];
-            b.hg = b.hu = b.k / 2;
-            b.kx = n % 11 == 0 ? 0.0 : koordinate(1.0);
-            b.ky = koordinate(0.5);
-            b.wert = n % 3 == 0 ? 4.0 : (n % 3 == 1 ? 400.0 : 1e8);
-            b.genau = n % 5 == 0 ? 0.01 : 0.0001;
-            b.zycmax = 1 + static_cast<qint32>(n % 24);
-            b.xm.fill(koordinate(1.0));
-            b.ym.fill(koordinate(1.0));
-            b.uebertragen(*m);
-            // Pixel after pixel on the same model: repairs and history last.
-            for (const double weite : weiten) {
-                const double xqr = koordinate(weite), yqr = koordinate(weite);
-                const double cx = koordinate(weite), cy = koordinate(weite);
-                const double soll = b.rechnen(xqr, yqr, cx, cy);
-                const double ist = ((*m).*kern)(xqr, yqr, cx, cy);
-                const QString wo =
-                    QStringLiteral("twin %1, bailout %2, K %3, limit %4: %5 instead of %6")
-                        .arg(zwilling)
-                        .arg(art)
-                        .arg(b.k)
-                        .arg(b.grenze)
-                        .arg(ist, 0, 'g', 17)
-                        .arg(soll, 0, 'g', 17);
-                QVERIFY2(bitgleich(ist, soll), qPrintable(wo));
-                const QString feld = b.unterschied(*m);
-                QVERIFY2(feld.isEmpty(), qPrintable(wo + QStringLiteral(", ") + feld));
-            }
+    const auto soll = kernmodell();
+    soll->wahl_Gleichung = gleichung;
+    for (unsigned n = 0; n < 150; ++n) {
+        soll->g_ZwillingJa = static_cast<qint32>(n / 10) - 1;
+        soll->glg_Abbruch = n % 10;
+        soll->Max_Iterationen = grenzen[n % std::size(grenzen)];
+        soll->g_kPotenz = potenzen[n % std::size(potenzen)];
+        soll->kPotHg = soll->kPotHu = soll->g_kPotenz / 2;
+        soll->Koppl_x = n % 11 == 0 ? 0.0 : koordinate(1.0);
+        soll->Koppl_y = koordinate(0.5);
+        soll->wert_Abbruch = n % 3 == 0 ? 4.0 : (n % 3 == 1 ? 400.0 : 1e8);
+        soll->g_Genauigkeit = n % 5 == 0 ? 0.01 : 0.0001;
+        soll->g_zycmax = 1 + n % 24;
+        soll->xm.fill(koordinate(1.0));
+        soll->ym.fill(koordinate(1.0));
+        uebertragen(*soll, *m);
+        // Pixel after pixel on the same model: repairs and history last.
+        for (const double weite : {2.0, 0.7, 20.0}) {
+            const double x = koordinate(weite), y = koordinate(weite);
+            const double cx = koordinate(weite), cy = koordinate(weite);
+            const double wert = Bezugskern(*soll).rechnen({x, y}, {cx, cy});
+            const double ist = kern({x, y}, {cx, cy});
+            const QString anders = bitgleich(ist, wert)
+                                       ? unterschied(*m, *soll)
+                                       : QString("%1 instead of %2").arg(ist).arg(wert);
+            QVERIFY2(anders.isEmpty(),
+                     qPrintable(QString("setting %1, width %2: ").arg(n).arg(weite) + anders));
         }
     }
 }
 
-void TestKerne::ohneFormel_data() {
+void TestKerne::wurzeln_data() {
     QTest::addColumn<qint32>("gleichung");
-    QTest::addColumn<double>("wert");
-    QTest::addColumn<qint32>("zaehler");
-    QTest::newRow("power") << 601 << 5.0 << 50;
-    QTest::newRow("eye, far number") << 1203 << 5.0 << 50;
-    QTest::newRow("pole") << 805 << 5.0 << 50;
-    QTest::newRow("exponent") << 807 << 5.0 << 50;
-    QTest::newRow("Newton refuses its first step") << 1010 << 0.0 << 1;
+    QTest::addColumn<qint32>("k");
+    QTest::addColumn<int>("grad");
+    QTest::newRow("109") << 109 << 10 << 3;
+    QTest::newRow("309") << 309 << 10 << 5;
+    QTest::newRow("110, K = 7") << 110 << 7 << 7;
+    QTest::newRow("110, K = 0 counts as 10") << 110 << 0 << 10;
+    for (int grad = 2; grad <= 9; ++grad) {
+        QTest::addRow("%d", 100 * grad + 10) << 100 * grad + 10 << 10 << grad;
+    }
 }
 
-// A number of a known family that has no formula leaves the value where it starts.
-void TestKerne::ohneFormel() {
+// An orbit that settles settles on a root: of 1 for the odd numbers (with the derivative's factor
+// 1), of the coupling constant for the even ones.
+void TestKerne::wurzeln() {
     QFETCH(qint32, gleichung);
-    QFETCH(double, wert);
-    QFETCH(qint32, zaehler);
-    Bezugskern b;
-    b.grenze = 50;
-    b.art = 0;
-    b.uebertragen(*m);
+    QFETCH(qint32, k);
+    QFETCH(int, grad);
+    const bool einswurzel = gleichung % 2 != 0;
+    const C p = einswurzel ? C(1, 0) : C(0.3, 0.4), pixel(0.9, 0.7);
     m->wahl_Gleichung = gleichung;
-    for (const qint32 zwilling : {0, 4, 12}) {
-        m->g_ZwillingJa = zwilling;
-        QCOMPARE(((*m).*kernFuer(gleichung))(3.0, -4.0, 0.25, 0.5), wert);
-        QCOMPARE(m->privateIterat, zaehler);
+    m->g_kPotenz = k;
+    m->Koppl_x = p.real();
+    m->Koppl_y = p.imag();
+    kern(einswurzel ? C() : pixel, einswurzel ? pixel : C(1, 0));
+    QCOMPARE(m->privateIterat, 256);
+    QVERIFY(std::abs(std::pow(orbitende(), grad) - p) < 1e-12);
+}
+
+// The main value of a hypercomplex root is the mean of two complex cube roots of the constant.
+void TestKerne::hyperwurzeln() {
+    const C c(1.0, 1.0), drehung = std::polar(1.0, 2 * M_PI / 3);
+    for (const C& start : {C(1, 0.1), C(-2, 3), C(0.2, -0.3)}) {
+        for (const bool einswurzel : {true, false}) {
+            m->wahl_Gleichung = einswurzel ? 9 : 10;
+            m->OZaehler = 0;
+            kern(einswurzel ? C() : start, einswurzel ? start : c);
+            QCOMPARE(m->privateIterat, 256);
+            const C wurzel = einswurzel ? C(1, 0) : std::pow(c, 1.0 / 3);
+            double naechste = 1.0;
+            for (int i = 0; i < 9; ++i) {
+                const C summe = wurzel * (std::pow(drehung, i / 3) + std::pow(drehung, i % 3));
+                naechste = std::min(naechste, std::abs(summe / 2.0 - orbitende()));
+            }
+            QVERIFY(naechste < 1e-12);
+        }
+    }
+}
+
+// Absurd settings end with a count within the limit and a value that has a reason.
+void TestKerne::unsinn() {
+    QFETCH(qint32, gleichung);
+    constexpr double inf = std::numeric_limits<double>::infinity();
+    const double werte[] = {0.0, -0.0, inf, -inf, qQNaN(), 1e300, 5e-324, -1.5, 0.3, 400.0};
+    constexpr qint32 zahlen[] = {-5, 0, 1, 3, 12, 1000000, Kleinste, Groesste};
+    std::mt19937 zufall(11);
+    const auto wert = [&] { return werte[zufall() % std::size(werte)]; };
+    for (int i = 0; i < 400; ++i) {
+        for (const auto feld : Ganze) {
+            (*m).*feld = zahlen[zufall() % std::size(zahlen)];
+        }
+        for (const auto feld : Reelle) {
+            (*m).*feld = wert();
+        }
+        m->wahl_Gleichung = i % 50 == 0 ? 999900 + gleichung : gleichung;
+        m->glg_Abbruch = i % 3 == 0 ? m->glg_Abbruch : i % 10;
+        m->g_ZwillingJa = i % 2 == 0 ? m->g_ZwillingJa : i % 15;
+        m->Max_Iterationen = i % 4 == 1 ? -i : 40;
+        const double x = wert(), y = wert(), cx = wert(), cy = wert();
+        const double rq = kern({x, y}, {cx, cy});
+        const qint32 zaehler = m->privateIterat, grenze = std::max(2, m->Max_Iterationen);
+        QVERIFY(zaehler >= 1 && zaehler <= grenze);
+        QVERIFY(zaehler == grenze || rq == 0.0 || !(m->wert_Abbruch > rq));
     }
 }
 

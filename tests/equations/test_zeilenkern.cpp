@@ -1,74 +1,19 @@
 #include "Bezugskern.h"
+#include "equations/Gleichungen.h"
 #include "equations/Rechenweise.h"
 #include "equations/Zeilenkern.h"
-#include "Mandelbrot.h"
-#include "Testbasis.h"
 
-#include <algorithm>
-#include <memory>
 #include <random>
 
 namespace {
 
-/// One setting of the model and one row.
-struct Versuch {
-    Bezugskern werte;
-    qint32 genauJa = 0;
+/// A row of pixels and what comes out for it.
+struct Zeile {
     std::vector<double> x;
     double y = 0.0;
-    bool julia = false;
+    std::vector<double> wert{};
+    std::vector<qint32> zaehler{};
 };
-
-/// What a row leaves behind.
-struct Ergebnis {
-    std::vector<double> wert;
-    std::vector<qint32> zaehler;
-    std::vector<double> reellesModell;
-    std::vector<qint32> ganzesModell;
-};
-
-Ergebnis rechnen(Mandelbrot& m, const Versuch& v, Befehlssatz satz, bool abkuerzung) {
-    rechenweise() = {abkuerzung, satz};
-    v.werte.uebertragen(m);
-    m.g_GenauJa = v.genauJa;
-    m.privateIterat = m.IteratSubf = -1;
-    m.pm.fill(0.0);
-    m.tm.fill(0.0);
-    Ergebnis e;
-    e.wert.assign(v.x.size(), -77.0);
-    e.zaehler.assign(v.x.size(), -77);
-    zeileRechnen(m, {v.x, v.y, v.julia, e.wert, e.zaehler});
-    e.ganzesModell = {m.privateIterat, m.IteratSubf, m.g_GenauJa,   m.g_zycmax,
-                      m.g_ZwillingJa,  m.g_kPotenz,  m.glg_Abbruch, m.Orbitmodus};
-    e.reellesModell = {m.Koppl_x, m.Koppl_y, m.CJ_x, m.CJ_y};
-    for (const auto& verlauf : {m.xm, m.ym, m.pm, m.tm}) {
-        e.reellesModell.insert(e.reellesModell.end(), verlauf.begin(), verlauf.end());
-    }
-    return e;
-}
-
-bool gleich(const std::vector<double>& a, const std::vector<double>& b) {
-    return std::equal(a.begin(), a.end(), b.begin(), b.end(), bitgleich);
-}
-
-QString unterschied(const Ergebnis& ist, const Ergebnis& soll) {
-    for (std::size_t i = 0; i < soll.wert.size(); ++i) {
-        if (!bitgleich(ist.wert[i], soll.wert[i]) || ist.zaehler[i] != soll.zaehler[i]) {
-            return QStringLiteral("pixel %1: %2, %3 instead of %4, %5")
-                .arg(i)
-                .arg(ist.wert[i], 0, 'g', 17)
-                .arg(ist.zaehler[i])
-                .arg(soll.wert[i], 0, 'g', 17)
-                .arg(soll.zaehler[i]);
-        }
-    }
-    if (ist.ganzesModell != soll.ganzesModell) {
-        return QStringLiteral("whole numbers left in the model");
-    }
-    return gleich(ist.reellesModell, soll.reellesModell)
-               ? QString()
-               : QStringLiteral("numbers or history left in the model");
-}
 
 } // namespace
 
@@ -76,57 +21,66 @@ QString unterschied(const Ergebnis& ist, const Ergebnis& soll) {
 class TestZeilenkern : public QObject {
     Q_OBJECT
 
+    std::unique_ptr<M> m; ///< settings
+    const std::unique_ptr<M> soll = kernmodell(), ist = kernmodell();
+    const Rechenweise anfang = rechenweise();
+
+    void rechnen(M& modell, Zeile& z, Befehlssatz satz, bool abkuerzung) const;
+    void vergleichen(Zeile z);
+
   private Q_SLOTS:
-    void cleanup();
+    void init() { m = kernmodell(); }
+    void cleanup() { rechenweise() = anfang; }
     void befehlssatz();
     void wieEinzeln_data();
     void wieEinzeln();
     void lange_data();
     void lange();
-    void sonderwerte_data();
-    void sonderwerte();
     void ohneKern();
     void orbitaufzeichnung();
-
-  private:
-    void vergleichen(const Versuch& v);
-
-    std::unique_ptr<Mandelbrot> m = std::make_unique<Mandelbrot>();
-    const Rechenweise anfang = rechenweise();
 };
 
-void TestZeilenkern::cleanup() { rechenweise() = anfang; }
+void TestZeilenkern::rechnen(M& modell, Zeile& z, Befehlssatz satz, bool abkuerzung) const {
+    rechenweise() = {abkuerzung, satz};
+    uebertragen(*m, modell);
+    z.wert.assign(z.x.size(), -77.0);
+    z.zaehler.assign(z.x.size(), -77);
+    zeileRechnen(modell, {z.x, z.y, m->wahl_Gleichung % 2 == 0, z.wert, z.zaehler});
+}
 
 // Every instruction set that the processor has, the plain kernel with the shortcut, and lanes
 // without it.
-void TestZeilenkern::vergleichen(const Versuch& v) {
-    const Ergebnis soll = rechnen(*m, v, Befehlssatz::Punktweise, false);
-    struct Weg {
-        Befehlssatz satz;
-        bool abkuerzung;
-    };
-    constexpr Weg wege[] = {{Befehlssatz::Punktweise, true},
-                            {Befehlssatz::Grundsatz, true},
-                            {Befehlssatz::Avx2, true},
-                            {Befehlssatz::Avx512, true},
-                            {Befehlssatz::Avx512, false}};
-    for (const auto& [satz, abkuerzung] : wege) {
-        if (abkuerzung && verfuegbar(satz) != satz) {
-            continue;
+void TestZeilenkern::vergleichen(Zeile z) {
+    m->privateIterat = m->IteratSubf = -1;
+    rechnen(*soll, z, Befehlssatz::Punktweise, false);
+    for (const Befehlssatz satz : {Befehlssatz::Punktweise, Befehlssatz::Grundsatz,
+                                   Befehlssatz::Avx2, Befehlssatz::Avx512}) {
+        for (const bool abkuerzung : {true, false}) {
+            if (verfuegbar(satz) != satz || (!abkuerzung && satz != anfang.befehlssatz)) {
+                continue;
+            }
+            Zeile neu = z;
+            rechnen(*ist, neu, satz, abkuerzung);
+            QString anders = unterschied(*ist, *soll);
+            for (std::size_t i = 0; i < z.x.size(); ++i) {
+                if (!bitgleich(neu.wert[i], z.wert[i]) || neu.zaehler[i] != z.zaehler[i]) {
+                    anders = QString("pixel %1: %2, %3 instead of %4, %5")
+                                 .arg(i)
+                                 .arg(neu.wert[i], 0, 'g', 17)
+                                 .arg(neu.zaehler[i])
+                                 .arg(z.wert[i], 0, 'g', 17)
+                                 .arg(z.zaehler[i]);
+                }
+            }
+            QVERIFY2(anders.isEmpty(),
+                     qPrintable(QString("set %1, shortcut %2, twin %3, bailout %4, limit %5: %6")
+                                    .arg(static_cast<int>(satz))
+                                    .arg(abkuerzung)
+                                    .arg(m->g_ZwillingJa)
+                                    .arg(m->glg_Abbruch)
+                                    .arg(m->Max_Iterationen)
+                                    .arg(anders)));
         }
-        const QString anders = unterschied(rechnen(*m, v, satz, abkuerzung), soll);
-        QVERIFY2(anders.isEmpty(),
-                 qPrintable(QStringLiteral("set %1, shortcut %2, twin %3, bailout %4, K %5, limit "
-                                           "%6, width %7, zycmax %8: %9")
-                                .arg(static_cast<int>(satz))
-                                .arg(abkuerzung)
-                                .arg(v.werte.zwilling)
-                                .arg(v.werte.art)
-                                .arg(v.werte.k)
-                                .arg(v.werte.grenze)
-                                .arg(v.x.size())
-                                .arg(v.werte.zycmax)
-                                .arg(anders)));
     }
 }
 
@@ -141,55 +95,51 @@ void TestZeilenkern::befehlssatz() {
 
 void TestZeilenkern::wieEinzeln_data() {
     QTest::addColumn<qint32>("gleichung");
-    for (const qint32 n : alleGleichungen()) {
-        QTest::addRow("%d", n) << n;
+    for (const Gleichung& gleichung : gleichungen()) {
+        QTest::addRow("%d", gleichung.nummer) << gleichung.nummer;
     }
     QTest::newRow("no such member") << 601;
 }
 
+// Twins and bailouts, known and unknown ones, each pair with usual and with special numbers.
 void TestZeilenkern::wieEinzeln() {
     QFETCH(qint32, gleichung);
+    constexpr double inf = std::numeric_limits<double>::infinity();
+    const double besondere[] = {0.0,   -0.0,   inf, -inf, qQNaN(), 5e-324, -1e-310, 1e160,
+                                -1e80, 1e-160, 0.3, -1.2, 2.0,     -0.5,   1e308,   1.0};
+    constexpr double abbruchwerte[] = {4.0, 1e8, 400.0, 400.0, inf};
     constexpr qint32 grenzen[] = {256, 1, 255, 2, 600, 3, 30};
     constexpr qint32 potenzen[] = {2, 7, 0, 3, 10, -2, 6};
     std::mt19937 zufall(static_cast<unsigned>(gleichung));
-    const auto zwischen = [&](double von, double bis) {
-        return std::uniform_real_distribution<double>(von, bis)(zufall);
-    };
     // The equations without lanes differ by the shortcut alone and are slow: fewer settings.
     const bool inSpuren = gleichung < 7 || (gleichung > 99 && gleichung % 100 < 5);
-    qint32 n = 0;
-    for (qint32 zwilling = -1; zwilling <= 12; ++zwilling) {
-        for (qint32 art = -1; art <= 10; ++art, ++n) {
-            if (!inSpuren && n % 4 != 0) {
-                continue;
-            }
-            Versuch v;
-            v.werte.gleichung = gleichung;
-            v.werte.zwilling = n % 5 == 0 ? 0 : zwilling;
-            v.werte.art = art;
-            v.werte.grenze = grenzen[n % 7];
-            v.werte.k = potenzen[n % 6];
-            v.werte.hg = v.werte.hu = v.werte.k / 2;
-            v.werte.kx = n % 13 == 0 ? 0.0 : zwischen(-0.5, 0.5);
-            v.werte.ky = zwischen(-0.3, 0.3);
-            v.werte.wert = n % 4 == 0 ? 4.0 : (n % 4 == 1 ? 1e8 : 400.0);
-            v.werte.genau = n % 3 == 0 ? 0.01 : 0.0001;
-            v.werte.zycmax = n % 9 == 0 ? 0 : 1 + n % 26;
-            v.genauJa = n % 2;
-            v.werte.cjx = zwischen(-1.2, 0.4);
-            v.werte.cjy = zwischen(-0.6, 0.6);
-            v.julia = gleichung % 2 == 0;
-            v.y = n % 8 == 0 ? 0.0 : zwischen(-1.0, 1.0);
-            const double links = zwischen(-2.0, 0.0);
-            const double schritt = zwischen(0.001, 0.08);
-            for (qint32 i = 0; i < 1 + n % 40; ++i) {
-                v.x.push_back(links + i * schritt);
-            }
-            vergleichen(v);
-            if (QTest::currentTestFailed()) {
-                return;
-            }
+    for (qint32 n = 0; n < 336 && !QTest::currentTestFailed(); n += inSpuren ? 1 : 4) {
+        const bool besonders = (n / 7 + n / 168) % 2 == 1;
+        const auto zahl = [&](double von, double bis) {
+            return besonders ? besondere[zufall() % std::size(besondere)]
+                             : std::uniform_real_distribution<double>(von, bis)(zufall);
+        };
+        m->wahl_Gleichung = gleichung;
+        m->g_ZwillingJa = n % 5 == 0 ? 0 : n / 12 % 14 - 1;
+        m->glg_Abbruch = n % 12 - 1;
+        m->Max_Iterationen = grenzen[n % 7];
+        m->g_kPotenz = potenzen[n % 6];
+        m->kPotHg = m->kPotHu = m->g_kPotenz / 2;
+        m->Koppl_x = n % 13 == 0 ? 0.0 : zahl(-0.5, 0.5);
+        m->Koppl_y = zahl(-0.3, 0.3);
+        m->wert_Abbruch = besonders && n % 3 == 0 ? zahl(0, 0) : abbruchwerte[n % 5];
+        m->g_Genauigkeit = besonders && n % 4 == 0 ? zahl(0, 0) : (n % 3 == 0 ? 0.01 : 0.0001);
+        m->g_zycmax = n % 9 == 0 ? 0 : 1 + n % 26;
+        m->g_Max_rgbFarben = n % 10 == 0 ? -3 : 582;
+        m->g_GenauJa = n % 2;
+        m->CJ_x = zahl(-1.2, 0.4);
+        m->CJ_y = zahl(-0.6, 0.6);
+        Zeile z{{}, n % 8 == 0 ? 0.0 : zahl(-1.0, 1.0)};
+        const double links = zahl(-2.0, 0.0), schritt = zahl(0.001, 0.08);
+        for (qint32 i = 0; i < 1 + n % 40; ++i) {
+            z.x.push_back(besonders ? besondere[i % 16] : links + i * schritt);
         }
+        vergleichen(z);
     }
 }
 
@@ -205,116 +155,58 @@ void TestZeilenkern::lange_data() {
     }
 }
 
-// Long orbits: settled ones of many periods, chaotic ones, and such as leave late.
+// Long orbits: settled ones of many periods, chaotic ones, and such as leave late. The last row is
+// longer than one piece of the lanes.
 void TestZeilenkern::lange() {
     QFETCH(qint32, gleichung);
     QFETCH(double, links);
     QFETCH(double, breite);
     QFETCH(double, y);
-    constexpr qint32 arten[] = {1, 0, 2, 4, 5, 8, 4};
-    constexpr qint32 zwillinge[] = {0, 1, 4};
-    for (qint32 n = 0; n < 7; ++n) {
-        Versuch v;
-        v.werte.gleichung = gleichung;
-        v.werte.zwilling = zwillinge[n % 3];
-        v.werte.art = arten[n];
-        v.werte.grenze = 5000 - n;
-        v.werte.k = 3;
-        v.werte.kx = 0.1;
-        v.werte.cjx = -0.12;
-        v.werte.cjy = 0.74;
-        v.werte.zycmax = 7 + n;
-        v.werte.wert = n > 2 && n % 2 == 0 ? 1e6 : 400.0;
-        v.julia = gleichung % 2 == 0;
-        v.y = y;
-        for (qint32 i = 0; i < 37; ++i) {
-            v.x.push_back(links + breite * i / 37);
+    constexpr qint32 arten[] = {1, 0, 2, 4, 5, 8, 4, 1};
+    constexpr qint32 zwillinge[] = {0, 1, 4, 0, 1, 4, 0, 0};
+    const qint32 anzahl = gleichung <= 6 || gleichung == 101 ? 8 : 7;
+    for (qint32 n = 0; n < anzahl && !QTest::currentTestFailed(); ++n) {
+        const bool langeZeile = n == 7;
+        m->wahl_Gleichung = gleichung;
+        m->g_ZwillingJa = zwillinge[n];
+        m->glg_Abbruch = arten[n];
+        m->Max_Iterationen = langeZeile ? 256 : 5000 - n;
+        m->g_kPotenz = 3;
+        m->Koppl_x = 0.1;
+        m->CJ_x = -0.12;
+        m->CJ_y = 0.74;
+        m->g_zycmax = 7 + n;
+        m->wert_Abbruch = n == 4 || n == 6 ? 1e6 : 400.0;
+        Zeile z{std::vector<double>(langeZeile ? 2500 : 37), y};
+        for (std::size_t i = 0; i < z.x.size(); ++i) {
+            z.x[i] = links + breite * double(i) / double(z.x.size());
         }
-        vergleichen(v);
-        if (QTest::currentTestFailed()) {
-            return;
-        }
-    }
-    if (gleichung <= 6 || gleichung == 101) {
-        Versuch v; // longer than one piece of the lanes
-        v.werte.gleichung = gleichung;
-        v.julia = gleichung % 2 == 0;
-        v.y = y;
-        for (qint32 i = 0; i < 2500; ++i) {
-            v.x.push_back(links + breite * i / 2500);
-        }
-        vergleichen(v);
-    }
-}
-
-void TestZeilenkern::sonderwerte_data() {
-    QTest::addColumn<qint32>("gleichung");
-    for (const qint32 n : alleGleichungen()) {
-        QTest::addRow("%d", n) << n;
-    }
-}
-
-void TestZeilenkern::sonderwerte() {
-    QFETCH(qint32, gleichung);
-    constexpr double inf = std::numeric_limits<double>::infinity();
-    const double zahlen[] = {0.0,   -0.0,   inf, -inf, qQNaN(), 5e-324, -1e-310, 1e160,
-                             -1e80, 1e-160, 0.3, -1.2, 2.0,     -0.5,   1e308,   1.0};
-    std::mt19937 zufall(static_cast<unsigned>(gleichung) + 1);
-    const auto zahl = [&] { return zahlen[zufall() % std::size(zahlen)]; };
-    for (qint32 n = 0; n < 160; ++n) {
-        Versuch v;
-        v.werte.gleichung = gleichung;
-        v.werte.zwilling = n % 13;
-        v.werte.art = n % 10;
-        v.werte.grenze = n % 2 == 0 ? 40 : 41 + n;
-        v.werte.k = 2 + n % 3;
-        v.werte.hg = v.werte.hu = n % 4;
-        v.werte.kx = zahl();
-        v.werte.ky = zahl();
-        v.werte.wert = n % 3 == 0 ? zahl() : (n % 3 == 1 ? inf : 400.0);
-        v.werte.genau = n % 4 == 0 ? zahl() : 0.0001;
-        v.werte.farben = n % 5 == 0 ? -3 : 582;
-        v.werte.cjx = zahl();
-        v.werte.cjy = zahl();
-        v.julia = gleichung % 2 == 0;
-        v.y = zahl();
-        for (const double x : zahlen) {
-            v.x.push_back(x);
-        }
-        vergleichen(v);
-        if (QTest::currentTestFailed()) {
-            return;
-        }
+        vergleichen(z);
     }
 }
 
 void TestZeilenkern::ohneKern() {
-    Versuch v;
-    v.werte.gleichung = 100;
-    v.x = {0.0, 1.0};
-    const Ergebnis e = rechnen(*m, v, Befehlssatz::Avx512, true);
-    QCOMPARE(e.zaehler, std::vector<qint32>(2, -77));
-    QCOMPARE(m->privateIterat, -1);
-    v.werte.gleichung = 1;
-    v.x.clear();
-    rechnen(*m, v, Befehlssatz::Avx512, true);
-    QCOMPARE(m->privateIterat, -1);
+    Zeile z{{0.0, 1.0}};
+    m->privateIterat = -1;
+    m->wahl_Gleichung = 100;
+    rechnen(*ist, z, Befehlssatz::Avx512, true);
+    QCOMPARE(z.zaehler, std::vector<qint32>(2, -77));
+    QCOMPARE(ist->privateIterat, -1);
+    m->wahl_Gleichung = 1;
+    z.x.clear();
+    rechnen(*ist, z, Befehlssatz::Avx512, true);
+    QCOMPARE(ist->privateIterat, -1);
 }
 
 // While an orbit is recorded every step is made, also by a row.
 void TestZeilenkern::orbitaufzeichnung() {
-    Bezugskern().uebertragen(*m);
+    Zeile z{{-0.1, -0.1}};
     m->Orbitmodus = 2;
-    m->OZaehler = 0;
-    m->g_maxOrbitIterat = 200;
-    m->g_OrbitAbIterAn = 0;
-    const std::vector<double> x = {-0.1, -0.1};
-    std::vector<double> wert(2);
-    std::vector<qint32> zaehler(2);
-    zeileRechnen(*m, {x, 0.0, false, wert, zaehler});
-    QCOMPARE(m->OZaehler, 200);
-    QCOMPARE(zaehler[1], 256);
-    m->Orbitmodus = 0;
+    ist->OZaehler = ist->g_OrbitAbIterAn = 0;
+    ist->g_maxOrbitIterat = 200;
+    rechnen(*ist, z, Befehlssatz::Avx512, true);
+    QCOMPARE(ist->OZaehler, 200);
+    QCOMPARE(z.zaehler[1], 256);
 }
 
 QTEST_MAIN(TestZeilenkern)

@@ -1,6 +1,3 @@
-wirbelwerk_test(test_abbruch equations/test_abbruch.cpp)
-wirbelwerk_test(test_gleichungen equations/test_gleichungen.cpp)
 wirbelwerk_test(test_kerne equations/test_kerne.cpp equations/Bezugskern.cpp equations/Bezugskern.h)
-wirbelwerk_test(test_kerntatsachen equations/test_kerntatsachen.cpp equations/Bezugskern.cpp equations/Bezugskern.h)
 wirbelwerk_test(test_startwerte equations/test_startwerte.cpp)
 wirbelwerk_test(test_zeilenkern equations/test_zeilenkern.cpp equations/Bezugskern.cpp equations/Bezugskern.h)
