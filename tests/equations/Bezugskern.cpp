@@ -16,6 +16,8 @@ std::unique_ptr<M> kernmodell() {
     m->kPotHu = 4;
     m->Koppl_x = 0.2;
     m->Koppl_y = 0.1;
+    m->CJ_x = -0.7;
+    m->CJ_y = 0.2;
     m->Max_Iterationen = 256;
     m->wahl_Gleichung = 1;
     return m;
