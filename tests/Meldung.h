@@ -9,6 +9,7 @@ struct Meldung {
     int anzahl = 0;
     QString titel, text;         ///< of the last box
     QWidget* besitzer = nullptr; ///< its parent
+    QSize groesse;
 };
 
 /// Runs a step and closes every message box that it waits for.
@@ -22,6 +23,7 @@ Meldung meldungBei(Schritt&& schritt) {
             meldung.titel = box->windowTitle();
             meldung.text = box->text();
             meldung.besitzer = box->parentWidget();
+            meldung.groesse = box->size();
             box->close();
         }
     });
