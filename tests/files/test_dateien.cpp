@@ -3,7 +3,7 @@
 #include "equations/Gleichungen.h"
 #include "files/Bilddaten.h"
 #include "files/Dateiausgabe.h"
-#include "Meldung.h"
+#include "Testbasis.h"
 #include "UI_Hauptfenster.h"
 
 #include <QBuffer>
@@ -12,6 +12,7 @@
 #include <QRandomGenerator>
 #include <QTemporaryDir>
 #include <QtEndian>
+#include <QTimer>
 
 #include <functional>
 #include <memory>
@@ -116,13 +117,18 @@ QByteArray bytesVon(const QString& name) {
     return quelle.open(QIODevice::ReadOnly) ? quelle.readAll() : QByteArray();
 }
 
-/// Answers every file dialog that opens while it lives, and notes what it showed. An empty name
-/// cancels; danach runs between the acceptance of a dialog and its return.
+/// Answers every modal dialog that opens while it lives, and notes what it showed. File dialogs get
+/// the name, an empty one cancels; danach runs between their acceptance and their return.
 struct Dialogfuehrer {
     explicit Dialogfuehrer(
         const QString& name, const std::function<void()>& danach = [] {}) {
         QObject::connect(&uhr, &QTimer::timeout, &uhr, [=, this] {
-            if (auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget())) {
+            QWidget* const modal = QApplication::activeModalWidget();
+            if (auto* box = qobject_cast<QMessageBox*>(modal)) {
+                gezeigt << box->windowTitle() << box->text();
+                eltern << box->parentWidget();
+                box->accept();
+            } else if (auto* dialog = qobject_cast<QFileDialog*>(modal)) {
                 auto* zeile = dialog->findChild<QLineEdit*>("fileNameEdit");
                 gezeigt << dialog->windowTitle() << zeile->text() << dialog->nameFilters()
                         << (dialog->acceptMode() == QFileDialog::AcceptSave ? "save" : "open");
@@ -130,10 +136,8 @@ struct Dialogfuehrer {
                 dialog->setOption(QFileDialog::DontConfirmOverwrite);
                 QObject::connect(dialog, &QDialog::accepted, dialog, danach);
                 zeile->setText(name);
-                if (!name.isEmpty()) {
-                    static_cast<QDialog*>(dialog)->accept();
-                }
-                if (dialog->isVisible()) { // cancelled, or the name was refused
+                static_cast<QDialog*>(dialog)->accept();
+                if (dialog->isVisible()) { // without a name, or it was refused
                     dialog->reject();
                 }
             }
@@ -141,7 +145,7 @@ struct Dialogfuehrer {
         uhr.start(1);
     }
 
-    QStringList gezeigt; ///< for each dialog: title, suggested name, filters, save or open
+    QStringList gezeigt; ///< title, suggested name, filters, save or open; of a box title, text
     QList<QWidget*> eltern;
     QTimer uhr;
 };
@@ -255,13 +259,13 @@ class TestDateien : public QObject {
                 QFile::remove(name);
                 QVERIFY(!wirdOrdner || QDir().mkdir(name));
             });
-            const Meldung meldung = meldungBei([&] { (fenster.*slot)(); });
-            QCOMPARE(meldung.anzahl, 1);
-            QCOMPARE(meldung.titel, "Es ist ein Fehler aufgetreten!");
-            QCOMPARE(meldung.text,
-                     QString("Es ist ein Fehler beim %1 der Datei:\n\n%2\n\naufgetreten!")
-                         .arg(laden ? "laden" : "speichern", name));
-            QCOMPARE(meldung.besitzer, nullptr);
+            (fenster.*slot)();
+            QCOMPARE(
+                fuehrer.gezeigt.mid(5),
+                QStringList({"Es ist ein Fehler aufgetreten!",
+                             QString("Es ist ein Fehler beim %1 der Datei:\n\n%2\n\naufgetreten!")
+                                 .arg(laden ? "laden" : "speichern", name)}));
+            QCOMPARE(fuehrer.eltern, QList<QWidget*>({&fenster, nullptr}));
             QCOMPARE(fenster.UI_MPx->value(), laden ? -0.5 : beispiel()[Ganze]); // start picture
             QCOMPARE(dateien(), QStringList());
         }
@@ -351,7 +355,7 @@ class TestDateien : public QObject {
                  QByteArray("<html>größer</html><html>größer</html>"));
         ordner->remove(); // the working directory is gone, nothing can be made in it
         const Dialogfuehrer fuehrer("");
-        QCOMPARE(meldungBei([this] { fenster.OrbitListeHTM_SpeichernSlot(); }).anzahl, 0);
+        fenster.OrbitListeHTM_SpeichernSlot();
         QCOMPARE(fuehrer.gezeigt, QStringList());
     }
 };

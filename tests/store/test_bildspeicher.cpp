@@ -36,11 +36,6 @@ class TestBildspeicher : public QObject {
         m->bilddatenSumme = n * 1.5;
     }
 
-    void zurueck(int n) {
-        n == 1 ? m->UnDo1DatenTeilbildLaden() : m->UnDo2DatenTeilbildLaden();
-        QVERIFY(n != 1 || m->UnDo4Integers == m->UnDo2Integers); // kept in reserve
-    }
-
     void vergleiche(int n) {
         QCOMPARE(abweichung(*m, werte(n)), QString());
         QCOMPARE(m->bilddatenInteger, n);
@@ -53,7 +48,8 @@ class TestBildspeicher : public QObject {
         {'f', [this](int n) { fuelle(n); }},
         {'s', [this](int) { m->DatenSichern(); }},
         {'t', [this](int) { m->DatenTeilbildLaden(); }},
-        {'u', [this](int n) { zurueck(n); }},
+        {'u',
+         [this](int n) { n == 1 ? m->UnDo1DatenTeilbildLaden() : m->UnDo2DatenTeilbildLaden(); }},
         {'r', [this](int) { m->WiederholenDatenTeilbildLaden(); }},
         {'d', [this](int) { m->BildSicherungLoeschen(); }},
         {'=', [this](int n) { vergleiche(n); }},
