@@ -155,11 +155,11 @@ void TestKerne::gleichBezug() {
     };
     const auto soll = kernmodell();
     soll->wahl_Gleichung = gleichung;
-    for (unsigned n = 0; n < 150; ++n) {
-        soll->g_ZwillingJa = static_cast<qint32>(n / 10) - 1;
+    for (qint32 n = 0; n < 150; ++n) {
+        soll->g_ZwillingJa = n / 10 - 1;
         soll->glg_Abbruch = n % 10;
-        soll->Max_Iterationen = grenzen[n % std::size(grenzen)];
-        soll->g_kPotenz = potenzen[n % std::size(potenzen)];
+        soll->Max_Iterationen = grenzen[n % 7];
+        soll->g_kPotenz = potenzen[n % 8];
         soll->kPotHg = soll->kPotHu = soll->g_kPotenz / 2;
         soll->Koppl_x = n % 11 == 0 ? 0.0 : koordinate(1.0);
         soll->Koppl_y = koordinate(0.5);
