@@ -38,12 +38,14 @@ class Reihenlauf {
     }
 
   private:
-    /// A cycle search runs a bundle to its end: the fewer lanes wait for the last one the better.
-    static constexpr int n = mass == Mass::Zyklus ? 1 : Satz::Vektoren;
+    /// Registers of a bundle. A cycle search runs a bundle to its end: the fewer lanes wait for the
+    /// last one the better. With a twin, twice as many values want a register.
+    static constexpr int n = mass == Mass::Zyklus ? 1 : (mitZwilling ? 2 : Satz::Vektoren);
     using T = Spuren<Satz, n>;
     using M = Maske<Satz, n>;
     using Wert = Wertart<T>;
-    using Schritt = Doppelschritt<Abbildung, Kopplung, Wert>;
+    using Schritt =
+        Doppelschritt<Abbildung, std::conditional_t<mitZwilling, Kopplung, OhneKopplung>, Wert>;
     static constexpr int L = T::Anzahl; ///< lanes of a bundle
     static constexpr qint64 Stueck = 8; ///< steps between two looks at the lanes
     /// Real arithmetic is exact in lanes; a complex product may have to recover an infinity.
@@ -74,15 +76,15 @@ class Reihenlauf {
     static constexpr qint64 kleiner(qint64 a, qint64 b) { return a < b ? a : b; }
 
     [[nodiscard]] Schritt schrittMit(const Wert& c) const {
-        Kopplung k{};
         if constexpr (mitZwilling) {
+            Kopplung k{};
             k.art = r.zwilling;
             k.px = r.kopplX;
             k.py = r.kopplY;
+            return {abbildung, k, c, c};
         } else {
-            k.art = 0;
+            return {abbildung, {}, c, c};
         }
-        return {abbildung, k, c, c};
     }
 
     [[nodiscard]] T messen(const Stand<Wert>& s) const {
@@ -113,6 +115,9 @@ class Reihenlauf {
         return rq;
     }
 
+    // The innermost loops are functions of their own with everything inlined: a call in them would
+    // pass every lane through memory, and around them too many values want a register.
+
     // --- Without cycle search ----------------------------------------------------------------
 
     /// A bundle of lanes on their way through one round.
@@ -123,7 +128,8 @@ class Reihenlauf {
         M gezaehlt; ///< steps made in this round
     };
 
-    void durchlaufen(Buendel& b, const Schritt& schritt, qint64 schritte) const {
+    [[gnu::flatten, gnu::noinline]] void durchlaufen(Buendel& b, const Schritt& schritt,
+                                                     qint64 schritte) const {
         const T grenze(r.grenze);
         for (qint64 i = 0; i < schritte; ++i) {
             const M vorher = b.lebt;
@@ -135,7 +141,8 @@ class Reihenlauf {
     }
 
     /// The same on the guess that no lane ends; false, and nothing done, when one does.
-    [[nodiscard]] bool durcheilen(Buendel& b, const Schritt& schritt, qint64 schritte) const {
+    [[nodiscard, gnu::flatten, gnu::noinline]] bool durcheilen(Buendel& b, const Schritt& schritt,
+                                                               qint64 schritte) const {
         const T grenze(r.grenze);
         Stand<Wert> s = b.s;
         M lebt = b.lebt;
@@ -402,7 +409,7 @@ class Reihenlauf {
         zyklusEintragen(i, anzahl, b);
     }
 
-    void zyklusSchritt(Zyklusbuendel& b, const Schritt& schritt, qint64 stand) {
+    [[gnu::flatten]] void zyklusSchritt(Zyklusbuendel& b, const Schritt& schritt, qint64 stand) {
         const M vorher = b.lebt;
         const auto abbr = schritt(b.s);
         T rq = suchen(b.verlauf, re(b.s.z), im(b.s.z));

@@ -14,6 +14,20 @@
 #include <immintrin.h>
 #endif
 
+// The comparisons of two lanes are written out for the base set: g++ 12 can fail on the plain ones.
+
+/// Lanes of whole numbers that are equal.
+template <class Satz, class Register = typename Satz::Ganzzahlen>
+Register gleicheSpuren(const Register& l, const Register& r) {
+#if defined(__SSE2__)
+    if constexpr (Satz::Breite == 2) { // it compares halves of a lane only
+        const __m128i halb = _mm_cmpeq_epi32((__m128i)l, (__m128i)r);
+        return (Register)_mm_and_si128(halb, _mm_shuffle_epi32(halb, _MM_SHUFFLE(2, 3, 0, 1)));
+    } else
+#endif
+        return (Register)(l == r);
+}
+
 /// n registers of Satz::Breite doubles, as a tree of halves: registers stay registers.
 template <class Satz, int n>
 struct Spuren {
@@ -79,6 +93,11 @@ struct Maske<Satz, 1> {
     Register v;
 
     Maske() = default;
+    Maske(const Maske& m) : v(m.v) {}  // NOLINT(modernize-use-equals-default): see Spuren
+    Maske& operator=(const Maske& m) { // NOLINT(modernize-use-equals-default)
+        v = m.v;
+        return *this;
+    }
     explicit Maske(long long wert) : v(Register{} + wert) {}
     Maske(Register r) : v(r) {}
 
@@ -86,9 +105,9 @@ struct Maske<Satz, 1> {
     friend Maske operator|(const Maske& l, const Maske& r) { return {l.v | r.v}; }
     friend Maske operator-(const Maske& l, const Maske& r) { return {l.v - r.v}; }
     friend Maske operator~(const Maske& l) { return {~l.v}; }
-    friend Maske gleich(const Maske& l, const Maske& r) { return {(Register)(l.v == r.v)}; }
+    friend Maske gleich(const Maske& l, const Maske& r) { return {gleicheSpuren<Satz>(l.v, r.v)}; }
     static Maske laden(const long long* p) {
-        Register r;
+        Register r{};
         __builtin_memcpy(&r, p, sizeof r);
         return {r};
     }
@@ -102,11 +121,17 @@ struct Spuren<Satz, 1> {
     Register v;
 
     Spuren() = default;
+    // Not defaulted: a default copy is one of memory, this one stays in a register.
+    Spuren(const Spuren& s) : v(s.v) {}  // NOLINT(modernize-use-equals-default)
+    Spuren& operator=(const Spuren& s) { // NOLINT(modernize-use-equals-default)
+        v = s.v;
+        return *this;
+    }
     Spuren(double wert) : v(Register{} + wert) {}
     Spuren(Register r) : v(r) {}
 
     static Spuren laden(const double* p) {
-        Register r;
+        Register r{};
         __builtin_memcpy(&r, p, sizeof r);
         return {r};
     }
@@ -123,7 +148,7 @@ struct Spuren<Satz, 1> {
         return {(Register)((Bits)l.v & (Bits{} + ohneVorzeichen))};
     }
     friend Spuren wurzel(const Spuren& l) {
-        Register r;
+        Register r{};
         for (int i = 0; i < Satz::Breite; ++i) {
             r[i] = __builtin_sqrt(l.v[i]);
         }
@@ -133,7 +158,13 @@ struct Spuren<Satz, 1> {
 
 template <class Satz>
 Maske<Satz, 1> operator<(const Spuren<Satz, 1>& l, const Spuren<Satz, 1>& r) {
-    return {(typename Maske<Satz, 1>::Register)(l.v < r.v)};
+    using Bits = typename Maske<Satz, 1>::Register;
+#if defined(__SSE2__)
+    if constexpr (Satz::Breite == 2) {
+        return {(Bits)_mm_cmplt_pd((__m128d)l.v, (__m128d)r.v)};
+    } else
+#endif
+        return {(Bits)(l.v < r.v)};
 }
 template <class Satz, int n>
 Maske<Satz, n> operator<(const Spuren<Satz, n>& l, const Spuren<Satz, n>& r) {
@@ -158,7 +189,7 @@ Maske<Satz, n> istNaN(const Spuren<Satz, n>& l) {
 template <class Satz>
 Maske<Satz, 1> bitgleich(const Spuren<Satz, 1>& l, const Spuren<Satz, 1>& r) {
     using Bits = typename Maske<Satz, 1>::Register;
-    return {(Bits)((Bits)l.v == (Bits)r.v)};
+    return {gleicheSpuren<Satz>((Bits)l.v, (Bits)r.v)};
 }
 template <class Satz, int n>
 Maske<Satz, n> bitgleich(const Spuren<Satz, n>& l, const Spuren<Satz, n>& r) {
@@ -169,7 +200,8 @@ Maske<Satz, n> bitgleich(const Spuren<Satz, n>& l, const Spuren<Satz, n>& r) {
 template <class Satz>
 Spuren<Satz, 1> wahl(const Maske<Satz, 1>& m, const Spuren<Satz, 1>& dann,
                      const Spuren<Satz, 1>& sonst) {
-    return {m.v ? dann.v : sonst.v};
+    using Bits = typename Maske<Satz, 1>::Register;
+    return {(typename Spuren<Satz, 1>::Register)((m.v & (Bits)dann.v) | (~m.v & (Bits)sonst.v))};
 }
 template <class Satz, int n>
 Spuren<Satz, n> wahl(const Maske<Satz, n>& m, const Spuren<Satz, n>& dann,

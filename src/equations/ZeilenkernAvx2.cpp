@@ -8,7 +8,7 @@ namespace {
 
 struct Satz {
     static constexpr int Breite = 4;
-    static constexpr int Vektoren = 2;
+    static constexpr int Vektoren = 4;
     typedef double Gleitkommazahlen __attribute__((vector_size(32)));
     typedef long long Ganzzahlen __attribute__((vector_size(32)));
 };

@@ -11,6 +11,20 @@
     return g_ZwillingJa <= 0 ? 0 : (g_ZwillingJa > letzte ? letzte + 1 : g_ZwillingJa);
 }
 
+/// No twin: both constants stay plain.
+struct OhneKopplung {
+    static constexpr qint32 art = 0;
+
+    template <class Wert>
+    [[nodiscard]] static constexpr Wert haupt(const Wert& /*w*/, const Wert& c) {
+        return c;
+    }
+    template <class Wert>
+    [[nodiscard]] static constexpr Wert zwilling(const Wert& /*z*/, const Wert& c) {
+        return c;
+    }
+};
+
 /// Coupling of the real-arithmetic kernels, variants 1 to 6. `c` is the plain constant. The sign
 /// patterns of the variants are irregular on purpose.
 struct ReelleKopplung {
@@ -88,10 +102,13 @@ struct KomplexeKopplung {
     [[nodiscard]] constexpr K haupt(const K& w, const K& c) const {
         switch (art) {
         case 1:
+            return reellHaupt<1>(w, c);
         case 2:
+            return reellHaupt<2>(w, c);
         case 3:
+            return reellHaupt<3>(w, c);
         case 6:
-            return komplex<K>(ReelleKopplung{art, px, py}.haupt(paar(w), paar(c)));
+            return reellHaupt<6>(w, c);
         case 4:
             return c + param<K>() * w;
         case 5:
@@ -115,10 +132,13 @@ struct KomplexeKopplung {
     [[nodiscard]] constexpr K zwilling(const K& z, const K& c) const {
         switch (art) {
         case 1:
+            return reellZwilling<1>(z, c);
         case 2:
+            return reellZwilling<2>(z, c);
         case 3:
+            return reellZwilling<3>(z, c);
         case 6:
-            return komplex<K>(ReelleKopplung{art, px, py}.zwilling(paar(z), paar(c)));
+            return reellZwilling<6>(z, c);
         case 4:
             return c - param<K>() * z;
         case 5:
@@ -140,6 +160,16 @@ struct KomplexeKopplung {
   private:
     template <class K>
     using Zahl = typename K::value_type;
+
+    // The row of the real table; a constant number, so that the compiler keeps that row only.
+    template <qint32 variante, class K>
+    [[nodiscard]] constexpr K reellHaupt(const K& w, const K& c) const {
+        return komplex<K>(ReelleKopplung{variante, px, py}.haupt(paar(w), paar(c)));
+    }
+    template <qint32 variante, class K>
+    [[nodiscard]] constexpr K reellZwilling(const K& z, const K& c) const {
+        return komplex<K>(ReelleKopplung{variante, px, py}.zwilling(paar(z), paar(c)));
+    }
 
     template <class K>
     [[nodiscard]] constexpr K param() const {
