@@ -6,10 +6,10 @@
 
 /// What the next paint has to do, the values of g_RechnenJa.
 enum Anforderung : qint32 {
-    NurFaerben = 0,      ///< colour the stored picture anew
-    Rechnen = 1,         ///< compute
-    RechnenMitOrbit = 2, ///< compute every pixel, the orbit's start among them
-    VorschauRechnen = 3, ///< compute a preview
+    NurFaerben = 0,      ///< colour anew; the driver makes it Rechnen when parameters changed
+    Rechnen = 1,         ///< compute; the driver makes it NurFaerben when nothing changed
+    RechnenMitOrbit = 2, ///< compute every pixel in any case, the orbit's start among them
+    VorschauRechnen = 3, ///< parameters changed by an operation: compute a preview
 };
 
 /// The values of g_OrbitJa: the orbit's colour.

@@ -150,6 +150,7 @@ class Dauerlauf {
         auto* const dialog = qobject_cast<QFileDialog*>(box);
         if (dialog != nullptr && dialog != beantwortet) {
             beantwortet = dialog;
+            dialog->setOption(QFileDialog::DontConfirmOverwrite); // older files are replaced
             dialog->findChild<QLineEdit*>("fileNameEdit")->setText(namen[dialoge++ % namen.size()]);
             // Queued: the dialog may ask back, and the timer must tick for the answer.
             QMetaObject::invokeMethod(dialog, "accept", Qt::QueuedConnection);

@@ -5,7 +5,7 @@
 #include <type_traits>
 
 /// One parameter that panel and model both hold: its spin box, the getter and the setter of the
-/// model, as the four things the window does with them.
+/// model, as the three things the window does with them.
 struct Parameter {
     QAbstractSpinBox* (*bauen)(UI& ui); ///< creates the box with the model's value, no parent
     void (*zeigen)(UI& ui);             ///< model to panel
