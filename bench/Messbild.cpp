@@ -2,6 +2,7 @@
 
 #include "equations/Zeilenkern.h"
 
+#include <bit>
 #include <ctime>
 #include <memory>
 
@@ -17,7 +18,7 @@ Messbild::Messbild(qint32 gleichung, const std::function<void(Mandelbrot&)>& abw
           m.Br_y = m.g_Bildverhaeltnis * m.Br_x;
           m.BildbreiteNeueEckpunkte();
       }),
-      x(Spalten), wert(Spalten), zaehler(Spalten) {}
+      x(Spalten) {}
 
 Mandelbrot& Messbild::modell() {
     static const auto einziges = std::make_unique<Mandelbrot>();
@@ -33,18 +34,35 @@ double Messbild::rechnen(qint32 abstand) {
         wertX = laufend;
         laufend += schritt;
     }
+    constexpr std::size_t breite = Spalten;
+    const std::size_t zeilen = static_cast<std::size_t>((Zeilen + abstand - 1) / abstand);
+    wert.resize(breite * zeilen);
+    zaehler.resize(breite * zeilen);
     // Processor time: other programs on the machine do not count.
     const std::clock_t beginn = std::clock();
     double y = m.I_Max;
     for (qint32 zeile = 0; zeile < Zeilen; ++zeile) {
         if (zeile % abstand == 0) {
+            const std::size_t ab = breite * static_cast<std::size_t>(zeile / abstand);
             zeileRechnen(m, {.x = x,
                              .y = y,
                              .julia = m.wahl_Gleichung % 2 == 0,
-                             .wert = wert,
-                             .zaehler = zaehler});
+                             .wert = std::span(wert).subspan(ab, breite),
+                             .zaehler = std::span(zaehler).subspan(ab, breite)});
         }
         y -= schritt;
     }
     return 1000.0 * static_cast<double>(std::clock() - beginn) / CLOCKS_PER_SEC;
+}
+
+qint64 Messbild::unterschiede(const Messbild& anderes) const {
+    const auto gleich = [](double a, double b) {
+        return std::bit_cast<quint64>(a) == std::bit_cast<quint64>(b) ||
+               (std::isnan(a) && std::isnan(b));
+    };
+    qint64 anzahl = 0;
+    for (std::size_t i = 0; i < wert.size(); ++i) {
+        anzahl += gleich(wert[i], anderes.wert[i]) && zaehler[i] == anderes.zaehler[i] ? 0 : 1;
+    }
+    return anzahl;
 }

@@ -19,10 +19,15 @@ class Messbild {
     /// processor time. The settings are those of rechenweise().
     double rechnen(qint32 abstand = 1);
 
+    /// Pixels of the last picture whose value (to the bit; any NaN equals any NaN) or count is not
+    /// that of another picture with the same rows.
+    [[nodiscard]] qint64 unterschiede(const Messbild& anderes) const;
+
   private:
     static Mandelbrot& modell();
 
     std::function<void(Mandelbrot&)> einstellen;
-    std::vector<double> x, wert;
+    std::vector<double> x;
+    std::vector<double> wert; ///< of the computed rows, one after the other
     std::vector<qint32> zaehler;
 };

@@ -1,5 +1,5 @@
 // Prints, for the pictures that matter, the milliseconds of the plain point kernel (no lanes, no
-// shortcut), those of the program as it is, and their ratio, on one core.
+// shortcut), those of the program as it is, their ratio, and the pixels that differ, on one core.
 //
 //     uebersicht [rows] [set]
 //
@@ -15,6 +15,8 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
+#include <map>
+#include <string>
 
 namespace {
 
@@ -23,6 +25,7 @@ constexpr std::array<const char*, 4> Satznamen = {"point by point", "base", "AVX
 struct Messung {
     double einfach = 0.0; ///< milliseconds
     double jetzt = 0.0;
+    qint64 anders = 0; ///< pixels that differ
     [[nodiscard]] double verhaeltnis() const { return einfach / jetzt; }
 };
 
@@ -34,7 +37,8 @@ class Uebersicht {
     void drucken() const {
         std::printf("%d x %d pixels, every row of %d, instruction set: %s\n", Messbild::Spalten,
                     Messbild::Zeilen, abstand, Satznamen[static_cast<std::size_t>(satz)]);
-        std::printf("%-52s %10s %10s %8s\n", "picture", "plain ms", "now ms", "ratio");
+        std::printf("%-52s %10s %10s %8s %8s\n", "picture", "plain ms", "now ms", "ratio",
+                    "differ");
         tiefe();
         std::printf("\n");
         einzelne();
@@ -49,10 +53,11 @@ class Uebersicht {
     /// The better of several runs each, taken in turns, so that other load meets both.
     [[nodiscard]] Messung messen(Messbild bild) const {
         Messung m;
+        Messbild vorbild = bild;
         double gesamt = 0.0;
         for (int lauf = 0; lauf < 2 || (lauf < 9 && gesamt < 600.0); ++lauf) {
             rechenweise() = {false, Befehlssatz::Punktweise};
-            const double einfach = bild.rechnen(abstand);
+            const double einfach = vorbild.rechnen(abstand);
             rechenweise() = {true, satz};
             const double jetzt = bild.rechnen(abstand);
             m.einfach = lauf == 0 ? einfach : std::min(m.einfach, einfach);
@@ -62,13 +67,14 @@ class Uebersicht {
                 break;
             }
         }
+        m.anders = bild.unterschiede(vorbild);
         return m;
     }
 
     Messung zeile(const QByteArray& name, const Messbild& bild) const {
         const Messung m = messen(bild);
-        std::printf("%-52s %10.1f %10.1f %8.2f\n", name.constData(), m.einfach, m.jetzt,
-                    m.verhaeltnis());
+        std::printf("%-52s %10.1f %10.1f %8.2f %8lld\n", name.constData(), m.einfach, m.jetzt,
+                    m.verhaeltnis(), static_cast<long long>(m.anders));
         std::fflush(stdout);
         return m;
     }
@@ -102,20 +108,44 @@ class Uebersicht {
         }
     }
 
+    /// Several pictures together.
+    struct Gesamt {
+        double logarithmen = 0.0, einfach = 0.0, jetzt = 0.0;
+        qint64 anders = 0;
+        int anzahl = 0;
+
+        void dazu(const Messung& m) {
+            logarithmen += std::log(m.verhaeltnis());
+            einfach += m.einfach;
+            jetzt += m.jetzt;
+            anders += m.anders;
+            ++anzahl;
+        }
+        void drucken(const char* name) const {
+            std::printf("%-34s sum %9.1f %9.1f %6.2f   mean ratio %6.2f   differ %lld\n", name,
+                        einfach, jetzt, einfach / jetzt, std::exp(logarithmen / anzahl),
+                        static_cast<long long>(anders));
+        }
+    };
+
+    /// The start pictures, then by family: the number itself below 100, else the last two digits.
     void alle() const {
-        double logarithmen = 0.0;
-        Messung summe;
+        Gesamt gesamt;
+        std::map<std::string, Gesamt> familien;
         for (const Gleichung& g : gleichungen()) {
             const Messung m = zeile(QByteArray::number(g.nummer), Messbild(g.nummer));
-            logarithmen += std::log(m.verhaeltnis());
-            summe.einfach += m.einfach;
-            summe.jetzt += m.jetzt;
+            gesamt.dazu(m);
+            const QByteArray name =
+                g.nummer < 100
+                    ? "equation " + QByteArray::number(g.nummer)
+                    : "family " + QByteArray::number(familie(g.nummer)).rightJustified(2, '0');
+            familien[name.toStdString()].dazu(m);
         }
-        const auto anzahl = static_cast<double>(gleichungen().size());
-        std::printf("%-52s %10.1f %10.1f %8.2f\n", "all start pictures, sum of the times",
-                    summe.einfach, summe.jetzt, summe.verhaeltnis());
-        std::printf("%-52s %10s %10s %8.2f\n", "all start pictures, geometric mean of the ratios",
-                    "", "", std::exp(logarithmen / anzahl));
+        std::printf("\n");
+        for (const auto& [name, werte] : familien) {
+            werte.drucken(name.c_str());
+        }
+        gesamt.drucken("all start pictures");
     }
 };
 

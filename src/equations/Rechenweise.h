@@ -19,5 +19,9 @@ struct Rechenweise {
 /// The setting in force; at the start everything that the processor offers.
 [[nodiscard]] Rechenweise& rechenweise();
 
-/// The widest instruction set, up to the wanted one, that this build and this processor have.
+/// The widest instruction set, up to the wanted one, that this processor has.
 [[nodiscard]] Befehlssatz verfuegbar(Befehlssatz gewuenscht);
+
+/// Clears the upper halves of the vector registers. While other code has left them in use, some
+/// processors run code of the base set several times slower.
+void vektorregisterFreigeben();

@@ -11,6 +11,12 @@ struct Zeilenauftrag {
                                ///< and the pixel the constant
     std::span<double> wert;    ///< out: what the kernel returns
     std::span<qint32> zaehler; ///< out: the kernel's count
+
+    /// `anzahl` pixels from index `von` on.
+    [[nodiscard]] Zeilenauftrag teil(std::size_t von, std::size_t anzahl) const {
+        return {x.subspan(von, anzahl), y, julia, wert.subspan(von, anzahl),
+                zaehler.subspan(von, anzahl)};
+    }
 };
 
 /// Computes a row with the kernel of m.wahl_Gleichung (a plain number that has a kernel; with any

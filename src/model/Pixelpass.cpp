@@ -1,6 +1,6 @@
 #include "model/Pixelpass.h"
 
-#include "equations/Kernwahl.h"
+#include "equations/punkt/Punktkern.h"
 #include "equations/Zeilenkern.h"
 #include "model/Linien.h"
 #include "model/Orbit.h"
@@ -23,7 +23,8 @@ void fortschrittMelden(Mandelbrot& m, qint32 zeile) {
 class Pass {
   public:
     Pass(Mandelbrot& menge, Bildlauf& bildlauf)
-        : m(menge), lauf(bildlauf), kern(kernFuer(menge.wahl_Gleichung)), linien(menge, bildlauf) {}
+        : m(menge), lauf(bildlauf), kern(punktkernFuer(menge.wahl_Gleichung)),
+          linien(menge, bildlauf) {}
 
     /// One row; the imaginary coordinate is the caller's.
     void zeileRechnen(qint32 zeile, double y) {
@@ -82,7 +83,7 @@ class Pass {
         double betrQ = 0.0;
         if (kern != nullptr) {
             zyklusVoreinstellen(m, w.wertx0, w.werty0);
-            betrQ = (m.*kern)(w.wertx0, w.werty0, w.wertCx, w.wertCy);
+            betrQ = kern->rechnen(m, {w.wertx0, w.werty0, w.wertCx, w.wertCy}, nullptr);
         }
         m.Orbitmodus = 1;
         if (m.g_RechnenJa >= Rechnen) {
@@ -109,7 +110,7 @@ class Pass {
 
     Mandelbrot& m;
     Bildlauf& lauf;
-    Kern kern;
+    const Punktkern* kern;
     Linien linien;
     std::array<double, Mandelbrot::BildMax> xWerte{}; ///< real coordinates of the row's columns
 };

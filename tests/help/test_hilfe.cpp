@@ -4,7 +4,7 @@
 #include "colours/Palettenwahl.h"
 #include "equations/Abbruch.h"
 #include "equations/Gleichungen.h"
-#include "equations/Zwilling.h"
+#include "equations/formeln/Zwilling.h"
 #include "help/Hilfetexte.h"
 #include "Meldung.h"
 #include "model/Einfaerbung.h"

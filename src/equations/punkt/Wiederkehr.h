@@ -1,14 +1,15 @@
 #pragma once
 
-#include "equations/Zahlen.h"
+#include "equations/formeln/Zahlen.h"
 
-#include <algorithm>
 #include <bit>
 
 /// Steps after which the kept state is renewed, at step n of an orbit. The distances grow with n,
 /// as in Brent's method of finding a cycle, by a quarter rather than doubling: a settled orbit is
 /// recognised at most so much later. At least 8, so that short periods fit at once.
-[[nodiscard]] constexpr qint64 wiederkehrFenster(qint64 n) noexcept { return n < 32 ? 8 : n / 4; }
+[[nodiscard, gnu::always_inline]] constexpr qint64 wiederkehrFenster(qint64 n) noexcept {
+    return n < 32 ? 8 : n / 4;
+}
 
 /// Looks for the return of an orbit to an earlier state, equal to the bit.
 template <class Wert>

@@ -1,10 +1,11 @@
 #pragma once
 
 #include "equations/Abbruch.h"
+#include "equations/punkt/Wiederkehr.h"
 #include "equations/Rechenweise.h"
-#include "equations/Wiederkehr.h"
-#include "equations/Zahlen.h"
 #include "Mandelbrot.h"
+
+#include <utility>
 
 // The frame that all kernels share: counters, bailout call, loop test and result rule. It repeats
 // the step
@@ -12,8 +13,9 @@
 // which depends on the state alone, so that the loop is a deterministic map.
 //
 // The first step counts as 1 and at most Max_Iterationen - 1 steps are made (one if the limit is
-// below 2); with `zaehltAbbruch` false in the step's type, an aborted step is not counted. A
-// measure that is not below wert_Abbruch, NaN included, ends the loop.
+// below 2); where `zaehltAbbruch` is false, an aborted step is not counted. A measure that is not
+// below wert_Abbruch, NaN included, ends the loop. An orbit that is taken over begins after
+// `getan` steps, each of which was tested.
 
 namespace rahmen {
 
@@ -26,17 +28,17 @@ inline double ergebnis(const Mandelbrot& m, qint32 iterationen, double betrQ, bo
 }
 
 /// Every step with its full bailout test, which also records the orbit.
-template <class Schritt, class Wert>
-double schrittweise(const Mandelbrot& m, const Schritt& schritt, Stand<Wert> s) {
+template <bool zaehltAbbruch, class Schritt, class Wert>
+double schrittweise(const Mandelbrot& m, const Schritt& schritt, Stand<Wert> s, qint32 getan) {
     double betrQ = 0.0;
     bool abbr = false;
-    m.IteratSubf = 1;
+    m.IteratSubf = 1 + getan;
     do {
         abbr = schritt(s);
         if (!abbr) {
             betrQ = m.BetrQ_Varianten(re(s.z), im(s.z), re(s.w), im(s.w));
         }
-        if (!abbr || Schritt::zaehltAbbruch) {
+        if (!abbr || zaehltAbbruch) {
             m.IteratSubf += 1;
         }
     } while (m.IteratSubf < m.Max_Iterationen && m.wert_Abbruch > betrQ && !abbr);
@@ -47,8 +49,8 @@ double schrittweise(const Mandelbrot& m, const Schritt& schritt, Stand<Wert> s) 
 /// the bit, all that follows is periodic and has been tested: the steps that remain are reduced
 /// modulo the period. A cycle search looks back further than the state; it is periodic, and wholly
 /// tested, g_zycmax + 1 steps after the repeat.
-template <class Schritt, class Wert>
-double abgekuerzt(const Mandelbrot& m, const Schritt& schritt, Stand<Wert> s) {
+template <bool zaehltAbbruch, class Schritt, class Wert>
+double abgekuerzt(const Mandelbrot& m, const Schritt& schritt, Stand<Wert> s, qint32 getan) {
     const double wertAbbruch = m.wert_Abbruch;
     const qint32 grenze = m.Max_Iterationen;
     Wiederkehr<Wert> wiederkehr(s);
@@ -56,11 +58,13 @@ double abgekuerzt(const Mandelbrot& m, const Schritt& schritt, Stand<Wert> s) {
     bool zyklussuche = false;
     qint64 periode = 0;
     qint32 nachlauf = -1; // steps until the remaining ones may be reduced
-    for (qint32 iterationen = 1;;) {
+    bool ersterTest = true;
+    for (qint32 iterationen = 1 + getan;;) {
         if (schritt(s)) {
-            return ergebnis(m, iterationen + (Schritt::zaehltAbbruch ? 1 : 0), 0.0, true);
+            return ergebnis(m, iterationen + (zaehltAbbruch ? 1 : 0), 0.0, true);
         }
-        if (iterationen == 1) {
+        const bool erster = std::exchange(ersterTest, false);
+        if (erster) {
             art = abbruchVorbereiten(m);
             zyklussuche = istZyklussuche(art);
             // The history does not hold the start value, so the first step is where to begin.
@@ -72,7 +76,7 @@ double abgekuerzt(const Mandelbrot& m, const Schritt& schritt, Stand<Wert> s) {
         if (iterationen >= grenze || !(wertAbbruch > betrQ)) {
             return ergebnis(m, iterationen, betrQ, false);
         }
-        if (periode == 0 && iterationen > 2) {
+        if (periode == 0 && !erster) {
             periode = wiederkehr.periode(s);
             nachlauf = periode == 0 ? -1 : (zyklussuche ? m.g_zycmax + 1 : 0);
         }
@@ -87,10 +91,11 @@ double abgekuerzt(const Mandelbrot& m, const Schritt& schritt, Stand<Wert> s) {
 
 } // namespace rahmen
 
-/// Runs the frame from the state s. Returns the kernel's result and leaves the count in
-/// privateIterat.
-template <class Schritt, class Wert>
-double iterieren(const Mandelbrot& m, const Schritt& schritt, const Stand<Wert>& s) {
-    return m.Orbitmodus != 2 && rechenweise().abkuerzung ? rahmen::abgekuerzt(m, schritt, s)
-                                                         : rahmen::schrittweise(m, schritt, s);
+/// Runs the frame from the state s, `getan` steps after the start. Returns the kernel's result and
+/// leaves the count in privateIterat.
+template <bool zaehltAbbruch, class Schritt, class Wert>
+double iterieren(const Mandelbrot& m, const Schritt& schritt, const Stand<Wert>& s, qint32 getan) {
+    return m.Orbitmodus != 2 && rechenweise().abkuerzung
+               ? rahmen::abgekuerzt<zaehltAbbruch>(m, schritt, s, getan)
+               : rahmen::schrittweise<zaehltAbbruch>(m, schritt, s, getan);
 }

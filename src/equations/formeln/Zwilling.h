@@ -1,18 +1,20 @@
 #pragma once
 
-#include "equations/Zahlen.h"
+#include "equations/formeln/Zahlen.h"
 
 // The coupling of the twin orbit: the constant that is added to the main value Z comes from the
 // twin value W, the twin's constant from Z. The number type is double or a vector of lanes.
 
 /// Variant number of a kernel whose table ends at `letzte`: 0 = off (also for negative numbers), 1
 /// to letzte, and letzte + 1 for all numbers above (the twin runs, both constants stay plain).
-[[nodiscard]] constexpr qint32 zwillingsart(qint32 g_ZwillingJa, qint32 letzte) noexcept {
+[[nodiscard, gnu::always_inline]] constexpr qint32 zwillingsart(qint32 g_ZwillingJa,
+                                                                qint32 letzte) noexcept {
     return g_ZwillingJa <= 0 ? 0 : (g_ZwillingJa > letzte ? letzte + 1 : g_ZwillingJa);
 }
 
 /// No twin: both constants stay plain.
 struct OhneKopplung {
+    static constexpr qint32 Letzte = 0;
     static constexpr qint32 art = 0;
 
     template <class Wert>
@@ -110,18 +112,18 @@ struct KomplexeKopplung {
         case 6:
             return reellHaupt<6>(w, c);
         case 4:
-            return c + param<K>() * w;
+            return c + konstante<K>(px, py) * w;
         case 5:
-            return c * (b1<K>() + mal(px, w));
+            return c * (eins<K>() + mal(px, w));
         case 7:
-            return c * (b11<K>() + mal(px, w));
+            return c * (konstante<K>(1.0, 1.0) + mal(px, w));
         case 8:
-            return c * (b1<K>() + param<K>() * w);
+            return c * (eins<K>() + konstante<K>(px, py) * w);
         case 9:
         case 10:
-            return c * (b11<K>() + param<K>() * w);
+            return c * (konstante<K>(1.0, 1.0) + konstante<K>(px, py) * w);
         case 11:
-            return c * (b11<K>() - param<K>() * w);
+            return c * (konstante<K>(1.0, 1.0) - konstante<K>(px, py) * w);
         default:
             return c;
         }
@@ -140,27 +142,24 @@ struct KomplexeKopplung {
         case 6:
             return reellZwilling<6>(z, c);
         case 4:
-            return c - param<K>() * z;
+            return c - konstante<K>(px, py) * z;
         case 5:
-            return c * (b1<K>() - mal(px, z));
+            return c * (eins<K>() - mal(px, z));
         case 7:
-            return c * (b11<K>() - mal(px, z));
+            return c * (konstante<K>(1.0, 1.0) - mal(px, z));
         case 8:
-            return c * (b1<K>() - param<K>() * z);
+            return c * (eins<K>() - konstante<K>(px, py) * z);
         case 9:
         case 11:
-            return c * (b11<K>() - param<K>() * z);
+            return c * (konstante<K>(1.0, 1.0) - konstante<K>(px, py) * z);
         case 10:
-            return c * (b11<K>() + param<K>() * z);
+            return c * (konstante<K>(1.0, 1.0) + konstante<K>(px, py) * z);
         default:
             return c;
         }
     }
 
   private:
-    template <class K>
-    using Zahl = typename K::value_type;
-
     // The row of the real table; a constant number, so that the compiler keeps that row only.
     template <qint32 variante, class K>
     [[nodiscard]] constexpr K reellHaupt(const K& w, const K& c) const {
@@ -172,27 +171,15 @@ struct KomplexeKopplung {
     }
 
     template <class K>
-    [[nodiscard]] constexpr K param() const {
-        return K(Zahl<K>(px), Zahl<K>(py));
-    }
-    template <class K>
-    [[nodiscard]] static constexpr K b1() {
-        return K(Zahl<K>(1.0), Zahl<K>(0.0));
-    }
-    template <class K>
-    [[nodiscard]] static constexpr K b11() {
-        return K(Zahl<K>(1.0), Zahl<K>(1.0));
-    }
-    template <class K>
     [[nodiscard]] static constexpr K mal(double faktor, const K& z) {
         return K(faktor * re(z), faktor * im(z));
     }
     template <class K>
-    [[nodiscard]] static constexpr Paar<Zahl<K>> paar(const K& z) {
+    [[nodiscard]] static constexpr Paar<typename K::value_type> paar(const K& z) {
         return {re(z), im(z)};
     }
     template <class K>
-    [[nodiscard]] static constexpr K komplex(const Paar<Zahl<K>>& z) {
+    [[nodiscard]] static constexpr K komplex(const Paar<typename K::value_type>& z) {
         return K(z.x, z.y);
     }
 };

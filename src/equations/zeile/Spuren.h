@@ -238,6 +238,18 @@ unsigned bits(const Maske<Satz, n>& m) {
     return bits(m.a) | bits(m.b) << (n / 2 * Satz::Breite);
 }
 
+/// The other truth values.
+template <class Satz, int n>
+Maske<Satz, n> nicht(const Maske<Satz, n>& m) {
+    return ~m;
+}
+
+/// Whether any truth value is set.
+template <class Satz, int n>
+bool eine(const Maske<Satz, n>& m) {
+    return bits(m) != 0;
+}
+
 /// The lanes 0 to anzahl - 1.
 template <class Satz, int n>
 Maske<Satz, n> ersteSpuren(int anzahl) {
@@ -252,28 +264,3 @@ Maske<Satz, n> ersteSpuren(int anzahl) {
         return {ersteSpuren<Satz, n / 2>(anzahl), ersteSpuren<Satz, n / 2>(anzahl - haelfte)};
     }
 }
-
-/// Complex number of lanes. The product is the plain one: where both parts come out NaN the
-/// library's product may recover an infinity, and the pixel is left to the point kernel. A
-/// quotient is not needed in lanes.
-template <class T>
-struct SpurenKomplex {
-    using value_type = T;
-    T x;
-    T y;
-
-    SpurenKomplex() = default;
-    SpurenKomplex(const T& realteil, const T& imaginaerteil) : x(realteil), y(imaginaerteil) {}
-
-    friend T re(const SpurenKomplex& z) { return z.x; }
-    friend T im(const SpurenKomplex& z) { return z.y; }
-    friend SpurenKomplex operator+(const SpurenKomplex& l, const SpurenKomplex& r) {
-        return {l.x + r.x, l.y + r.y};
-    }
-    friend SpurenKomplex operator-(const SpurenKomplex& l, const SpurenKomplex& r) {
-        return {l.x - r.x, l.y - r.y};
-    }
-    friend SpurenKomplex operator*(const SpurenKomplex& l, const SpurenKomplex& r) {
-        return {l.x * r.x - l.y * r.y, l.x * r.y + l.y * r.x};
-    }
-};

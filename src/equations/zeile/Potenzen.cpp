@@ -1,0 +1,6 @@
+#include "equations/zeile/Zeilentafel.h"
+
+template <>
+const Zeilenlauf* zeilentafel<Satz::Befehle, formeln::Potenzen>() {
+    return Zeilenlaeufe<Satz, formeln::Potenzen::Formeln>::Tafel;
+}
