@@ -46,6 +46,11 @@ Rechenweise& rechenweise() {
     return weise;
 }
 
+Rechenaufwand& rechenaufwand() {
+    static Rechenaufwand aufwand;
+    return aufwand;
+}
+
 void vektorregisterFreigeben() {
 #if defined(__x86_64__)
     if (__builtin_cpu_supports("avx") != 0) {

@@ -19,6 +19,16 @@ struct Rechenweise {
 /// The setting in force; at the start everything that the processor offers.
 [[nodiscard]] Rechenweise& rechenweise();
 
+/// What was computed so far, in numbers that do not depend on the clock. Tests and benchmarks set
+/// them to zero and ask for them.
+struct Rechenaufwand {
+    qint64 pixelInSpuren = 0;    ///< pixels finished in lanes
+    qint64 pixelEinzeln = 0;     ///< kernel calls for single pixels
+    qint64 schritteInSpuren = 0; ///< steps of single lanes, idle ones included
+    qint64 schritteEinzeln = 0;  ///< steps of single pixels
+};
+[[nodiscard]] Rechenaufwand& rechenaufwand();
+
 /// The widest instruction set, up to the wanted one, that this processor has.
 [[nodiscard]] Befehlssatz verfuegbar(Befehlssatz gewuenscht);
 

@@ -114,14 +114,17 @@ void punktweise(const Mandelbrot& m, const Punktkern& kern, const Zeilenauftrag&
 void nachbereiten(const Mandelbrot& m, const Punktkern& kern, const Zeilenauftrag& a,
                   const Zeilenstueck& r) {
     const bool betrag = m.glg_Abbruch == static_cast<qint32>(Abbruchart::Betrag);
+    qint64 inSpuren = 0;
     for (std::size_t i = 0; i < a.x.size(); ++i) {
         if (a.zaehler[i] == 0) {
             punktweise(m, kern, a, i, r.ab[i].getan > 0 ? &r.ab[i] : nullptr);
             continue;
         }
+        ++inSpuren;
         const double wert = betrag ? std::sqrt(a.wert[i]) : a.wert[i];
         a.wert[i] = wert == -m.g_Genauigkeit ? 0.0 : wert;
     }
+    rechenaufwand().pixelInSpuren += inSpuren;
 }
 
 void inSpurenRechnen(const Mandelbrot& m, const Punktkern& kern, const Zeilenauftrag& a,
@@ -140,6 +143,7 @@ void inSpurenRechnen(const Mandelbrot& m, const Punktkern& kern, const Zeilenauf
         lauf(r);
         nachbereiten(m, kern, stueck, r);
     }
+    rechenaufwand().schritteInSpuren += r.schritteGetan;
     const bool zyklussuche = istZyklussuche(static_cast<Abbruchart>(m.glg_Abbruch));
     if (r.getestet) {
         m.g_GenauJa = zyklussuche ? 1 : 0;

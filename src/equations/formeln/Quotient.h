@@ -15,8 +15,8 @@ inline constexpr double Epsilon = 0x1p-52;
 inline constexpr double Vergroesserung = 0x1p52;
 inline constexpr double Vergroesserbar = HalbeGroesste * Epsilon;
 
-/// Numerator and denominator, each ordered by the parts of the denominator: g + k is its larger and
-/// smaller part, u and v are the numerator's parts on the same places.
+/// Numerator and denominator, ordered by the denominator: g and k are its larger and its smaller
+/// part, u and v the numerator's parts in the same places.
 template <class T>
 struct Teile {
     T u, v, g, k;
@@ -29,55 +29,87 @@ struct Teile {
     }
 };
 
+/// What leads from the parts to the quotient: norm = g + k*q with q = k/g, and the numerator's
+/// parts times q.
+template <class T>
+struct Zwischenwerte {
+    T q, norm, uq, vq;
+
+    explicit Zwischenwerte(const Teile<T>& t)
+        : q(t.k / t.g), norm(t.k * q + t.g), uq(t.u * q), vq(t.v * q) {}
+};
+
+/// Lanes where nothing underflows or overflows on the way, so that the plain order is exact:
+/// neither the parts nor q are below the normal numbers, and g is neither small nor huge.
+template <class T>
+[[nodiscard]] auto gutartig(const Teile<T>& t, const T& q) {
+    const T g = absolut(t.g);
+    return nicht(absolut(t.u) < Kleinste) & nicht(absolut(t.v) < Kleinste) & nicht(g < Epsilon) &
+           (g < HalbeGroesste) & (T(Kleinste) < absolut(q));
+}
+
+/// Lanes where the same holds although some parts are zero, as they are for ever once an orbit has
+/// come to the real axis: a zero stays a zero of the same sign in every order and at every scale.
+template <class T>
+[[nodiscard]] auto gutartigMitNull(const Teile<T>& t, const Zwischenwerte<T>& w) {
+    const T u = absolut(t.u), v = absolut(t.v), g = absolut(t.g);
+    const auto uNull = nicht(T(0.0) < u), vNull = nicht(T(0.0) < v);
+    const auto kNull = nicht(T(0.0) < absolut(t.k));
+    const auto teile = (uNull | nicht(u < Kleinste)) & (vNull | nicht(v < Kleinste)) &
+                       (u < Vergroesserbar) & (v < Vergroesserbar) & nicht(g < Epsilon) &
+                       (g < HalbeGroesste);
+    const auto produkte = (uNull | nicht(absolut(w.uq) < Kleinste)) &
+                          (vNull | nicht(absolut(w.vq) < Kleinste)) & (T(Kleinste) < absolut(w.q));
+    return teile & (kNull | produkte);
+}
+
 /// Moves the parts into the range where no intermediate result is lost.
 template <class T>
 void einpassen(Teile<T>& t) {
-    const T halb = wahl(absolut(t.g) < HalbeGroesste, T(1.0), T(0.5));
-    t.strecken(halb);
+    t.strecken(wahl(absolut(t.g) < HalbeGroesste, T(1.0), T(0.5)));
     const T u = absolut(t.u), v = absolut(t.v), g = absolut(t.g);
     const auto einerKlein = ((u < Kleinste) & (v < Vergroesserbar) & (g < Vergroesserbar)) |
                             ((v < Kleinste) & (u < Vergroesserbar) & (g < Vergroesserbar));
     t.strecken(wahl((g < Epsilon) | einerKlein, T(Vergroesserung), T(1.0)));
 }
 
-/// Whether einpassen has something to do in any lane.
-template <class T>
-[[nodiscard]] bool passtNicht(const Teile<T>& t) {
-    const T u = absolut(t.u), v = absolut(t.v), g = absolut(t.g);
-    return eine((u < Kleinste) | (v < Kleinste) | (g < Epsilon) | nicht(g < HalbeGroesste));
-}
-
 } // namespace quotient
+
+/// z / n of a single pixel: compiled once, like the library's.
+[[nodiscard]] std::complex<double> geteilt(const std::complex<double>& z,
+                                           const std::complex<double>& n);
 
 /// z / n. In lanes, a quotient whose parts are both NaN is left to the point kernel; there the
 /// library decides, which recovers infinities.
 template <class K>
-[[nodiscard]] K geteilt(const K& z, const K& n) {
+[[nodiscard]] K quotientAus(const K& z, const K& n) {
     using T = typename K::value_type;
     const auto getauscht = absolut(re(n)) < absolut(im(n));
     quotient::Teile<T> t{wahl(getauscht, im(z), re(z)), wahl(getauscht, re(z), im(z)),
                          wahl(getauscht, im(n), re(n)), wahl(getauscht, re(n), im(n))};
-    if (quotient::passtNicht(t)) {
+    quotient::Zwischenwerte<T> w(t);
+    if (eine(nicht(quotient::gutartig(t, w.q))) && eine(nicht(quotient::gutartigMitNull(t, w)))) {
         quotient::einpassen(t);
-    }
-    const T q = t.k / t.g;
-    const T norm = t.k * q + t.g;
-    T uq = t.u * q;
-    T vq = t.v * q;
-    const auto winzig = nicht(T(quotient::Kleinste) < absolut(q));
-    if (eine(winzig)) {
-        uq = wahl(winzig, t.k * (t.u / t.g), uq);
-        vq = wahl(winzig, t.k * (t.v / t.g), vq);
+        w = quotient::Zwischenwerte<T>(t);
+        // The other order, where the ratio of the denominator's parts would be too coarse.
+        const auto winzig = nicht(T(quotient::Kleinste) < absolut(w.q));
+        w.uq = wahl(winzig, t.k * (t.u / t.g), w.uq);
+        w.vq = wahl(winzig, t.k * (t.v / t.g), w.vq);
     }
     // Not the one difference negated: the sign of a zero would differ.
-    const T x = (t.u + vq) / norm;
-    const T y = wahl(getauscht, uq - t.v, t.v - uq) / norm;
+    const T x = (t.u + w.vq) / w.norm;
+    const T y = wahl(getauscht, w.uq - t.v, t.v - w.uq) / w.norm;
     if constexpr (std::is_same_v<T, double>) {
         if (std::isnan(x) && std::isnan(y)) {
             return z / n;
         }
     }
     return K(x, y);
+}
+
+template <class T>
+[[nodiscard]] Spurenkomplex<T> geteilt(const Spurenkomplex<T>& z, const Spurenkomplex<T>& n) {
+    return quotientAus(z, n);
 }
 
 /// z^n by repeated squaring, equal to the bit to the standard library's complex power for an int

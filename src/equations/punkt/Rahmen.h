@@ -19,9 +19,12 @@
 
 namespace rahmen {
 
-/// Leaves the count in the model and gives the result: the last measure, or 0.0 when the orbit was
+/// Leaves the count in the model, notes the steps really made, and gives the result: the last measure, or 0.0 when the orbit was
 /// aborted or a cycle search found nothing.
-inline double ergebnis(const Mandelbrot& m, qint32 iterationen, double betrQ, bool abbr) {
+inline double ergebnis(const Mandelbrot& m, qint32 iterationen, qint64 schritte, double betrQ,
+                       bool abbr) {
+    rechenaufwand().pixelEinzeln += 1;
+    rechenaufwand().schritteEinzeln += schritte;
     m.IteratSubf = iterationen;
     m.privateIterat = iterationen;
     return abbr || betrQ == -m.g_Genauigkeit ? 0.0 : betrQ;
@@ -42,7 +45,7 @@ double schrittweise(const Mandelbrot& m, const Schritt& schritt, Stand<Wert> s, 
             m.IteratSubf += 1;
         }
     } while (m.IteratSubf < m.Max_Iterationen && m.wert_Abbruch > betrQ && !abbr);
-    return ergebnis(m, m.IteratSubf, betrQ, abbr);
+    return ergebnis(m, m.IteratSubf, m.IteratSubf - 1 - getan, betrQ, abbr);
 }
 
 /// The same values and counts, without the steps whose outcome is known. When a state repeats, to
@@ -59,9 +62,11 @@ double abgekuerzt(const Mandelbrot& m, const Schritt& schritt, Stand<Wert> s, qi
     qint64 periode = 0;
     qint32 nachlauf = -1; // steps until the remaining ones may be reduced
     bool ersterTest = true;
+    qint64 schritte = 0;
     for (qint32 iterationen = 1 + getan;;) {
+        ++schritte;
         if (schritt(s)) {
-            return ergebnis(m, iterationen + (zaehltAbbruch ? 1 : 0), 0.0, true);
+            return ergebnis(m, iterationen + (zaehltAbbruch ? 1 : 0), schritte, 0.0, true);
         }
         const bool erster = std::exchange(ersterTest, false);
         if (erster) {
@@ -74,7 +79,7 @@ double abgekuerzt(const Mandelbrot& m, const Schritt& schritt, Stand<Wert> s, qi
                                          : betragOhneZyklus(art, re(s.z), im(s.z));
         ++iterationen;
         if (iterationen >= grenze || !(wertAbbruch > betrQ)) {
-            return ergebnis(m, iterationen, betrQ, false);
+            return ergebnis(m, iterationen, schritte, betrQ, false);
         }
         if (periode == 0 && !erster) {
             periode = wiederkehr.periode(s);
@@ -83,7 +88,7 @@ double abgekuerzt(const Mandelbrot& m, const Schritt& schritt, Stand<Wert> s, qi
         if (nachlauf >= 0 && nachlauf-- == 0) {
             iterationen = grenze - static_cast<qint32>((grenze - iterationen) % periode);
             if (iterationen == grenze) {
-                return ergebnis(m, grenze, betrQ, false);
+                return ergebnis(m, grenze, schritte, betrQ, false);
             }
         }
     }

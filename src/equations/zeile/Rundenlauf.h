@@ -129,6 +129,7 @@ class Rundenlauf
 
     /// The guess pays where a step costs no more than keeping the books.
     void stueckRechnen(Buendel& b, const Schrittart& schritt, qint64 schritte, bool raten) const {
+        r.schritteGetan += schritte * L;
         if constexpr (!Formel::teuer) {
             if (raten && durcheilen(b, schritt, schritte)) {
                 return;

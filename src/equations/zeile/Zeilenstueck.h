@@ -34,6 +34,7 @@ struct Zeilenstueck {
     qint32* zaehler = nullptr; ///< out: count; 0 = left to the point kernel
     Zwischenstand* ab = nullptr; ///< out: where the point kernel takes over; getan 0 = the start
     bool getestet = false;       ///< out: a bailout test was made
+    qint64 schritteGetan = 0;    ///< out: steps of single lanes, idle ones included
 };
 
 /// Computes a piece of a row.

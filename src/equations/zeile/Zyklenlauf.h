@@ -97,6 +97,7 @@ class Zyklenlauf : Spurenlauf<Satz, Formel, mitZwilling, 1> {
         }
         for (qint64 stand = 1; stand <= r.schritte && eine(b.lebt); ++stand) {
             einSchritt(b, schritt, stand);
+            r.schritteGetan += L;
             if (r.abkuerzung && stand % Stueck == 0) {
                 zielVorziehen(b, stand);
             }
