@@ -44,8 +44,8 @@ struct Zwischenwerte {
 template <class T>
 [[nodiscard]] auto gutartig(const Teile<T>& t, const T& q) {
     const T g = absolut(t.g);
-    return nicht(absolut(t.u) < Kleinste) & nicht(absolut(t.v) < Kleinste) & nicht(g < Epsilon) &
-           (g < HalbeGroesste) & (T(Kleinste) < absolut(q));
+    const T kleinstes = kleineres(kleineres(absolut(t.u), absolut(t.v)), absolut(q));
+    return (T(Kleinste) < kleinstes) & nicht(g < Epsilon) & (g < HalbeGroesste);
 }
 
 /// Lanes where the same holds although some parts are zero, as they are for ever once an orbit has
@@ -85,8 +85,9 @@ template <class K>
 [[nodiscard]] K quotientAus(const K& z, const K& n) {
     using T = typename K::value_type;
     const auto getauscht = absolut(re(n)) < absolut(im(n));
-    quotient::Teile<T> t{wahl(getauscht, im(z), re(z)), wahl(getauscht, re(z), im(z)),
-                         wahl(getauscht, im(n), re(n)), wahl(getauscht, re(n), im(n))};
+    quotient::Teile<T> t{re(z), im(z), re(n), im(n)};
+    tauschen(getauscht, t.u, t.v);
+    tauschen(getauscht, t.g, t.k);
     quotient::Zwischenwerte<T> w(t);
     if (eine(nicht(quotient::gutartig(t, w.q))) && eine(nicht(quotient::gutartigMitNull(t, w)))) {
         quotient::einpassen(t);
@@ -98,7 +99,8 @@ template <class K>
     }
     // Not the one difference negated: the sign of a zero would differ.
     const T x = (t.u + w.vq) / w.norm;
-    const T y = wahl(getauscht, w.uq - t.v, t.v - w.uq) / w.norm;
+    tauschen(getauscht, t.v, w.uq);
+    const T y = (t.v - w.uq) / w.norm;
     if constexpr (std::is_same_v<T, double>) {
         if (std::isnan(x) && std::isnan(y)) {
             return z / n;

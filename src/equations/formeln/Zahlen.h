@@ -5,6 +5,7 @@
 #include <cmath>
 #include <complex>
 #include <type_traits>
+#include <utility>
 
 // Values of an orbit. The number type T is double, or a vector of lanes that carries many pixels.
 //
@@ -98,6 +99,12 @@ struct Stand {
 [[nodiscard]] constexpr double wahl(bool m, double dann, double sonst) noexcept {
     return m ? dann : sonst;
 }
+inline void tauschen(bool m, double& l, double& r) noexcept {
+    if (m) {
+        std::swap(l, r);
+    }
+}
+[[nodiscard]] constexpr double kleineres(double l, double r) noexcept { return l < r ? l : r; }
 [[nodiscard]] constexpr bool nicht(bool m) noexcept { return !m; }
 [[nodiscard]] constexpr bool eine(bool m) noexcept { return m; }
 

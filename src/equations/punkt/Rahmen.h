@@ -19,8 +19,8 @@
 
 namespace rahmen {
 
-/// Leaves the count in the model, notes the steps really made, and gives the result: the last measure, or 0.0 when the orbit was
-/// aborted or a cycle search found nothing.
+/// Leaves the count in the model, notes the steps really made, and gives the result: the last
+/// measure, or 0.0 when the orbit was aborted or a cycle search found nothing.
 inline double ergebnis(const Mandelbrot& m, qint32 iterationen, qint64 schritte, double betrQ,
                        bool abbr) {
     rechenaufwand().pixelEinzeln += 1;

@@ -10,7 +10,7 @@
 /// Registers of a bundle. With a twin, and for steps that keep many values, twice as many values
 /// want a register.
 template <class Satz, class Formel, bool mitZwilling>
-inline constexpr int Rundenregister = mitZwilling || Formel::teuer ? 2 : Satz::Vektoren;
+inline constexpr int Rundenregister = mitZwilling ? 2 : Satz::Vektoren;
 
 /// The loop without cycle search; `norm`: made for the squared modulus alone.
 template <class Satz, class Formel, bool mitZwilling, bool norm>
@@ -20,7 +20,6 @@ class Rundenlauf
     explicit Rundenlauf(Zeilenstueck& stueck) : Lauf(stueck) {}
 
     void rechnen() {
-        r.getestet = r.getestet || !kannAbbrechen;
         Schlange schlange;
         Rest rest;
         fuellen(schlange);
@@ -64,10 +63,12 @@ class Rundenlauf
 
     /// A bundle of lanes on their way through one round.
     struct Buendel {
+        qint32 erster; ///< place of its first pixel in the queue
         Stand<Wert> s;
-        M lebt;     ///< lanes that go on
-        T rq;       ///< last measure of lanes that have ended
-        M gezaehlt; ///< steps counted in this round
+        M lebt;              ///< lanes that go on
+        qint64 getan;        ///< steps made since the start
+        Stand<Wert> blick{}; ///< state at the last look, blickBei steps after the start
+        qint64 blickBei = 0;
     };
 
     [[nodiscard]] T messen(const Stand<Wert>& s) const {
@@ -81,61 +82,75 @@ class Rundenlauf
     // The innermost loops are functions of their own with everything inlined: a call in them would
     // pass every lane through memory, and around them too many values want a register.
 
-    /// Lanes that take a step end with the measure 0 when it fails. A measure of NaN stands for a
-    /// lane that the point kernel has to finish.
-    [[gnu::flatten, gnu::noinline]] void durchlaufen(Buendel& b, const Schrittart& schritt,
-                                                     qint64 schritte) const {
-        const T grenze(r.grenze);
-        for (qint64 i = 0; i < schritte; ++i) {
-            M zaehlt = b.lebt;
-            const M vorher = b.lebt;
-            const auto abbr = schritt(b.s);
-            T rq = messen(b.s);
-            if constexpr (kannAbbrechen) {
-                if (eine(abbr & vorher)) {
-                    const T nan(__builtin_nan(""));
-                    rq = wahl(abbr, reell ? T(0.0) : wahl(Lauf::verdorben(b.s), nan, T(0.0)), rq);
-                    b.lebt = b.lebt & ~abbr;
-                    zaehlt = Formel::zaehltAbbruch ? vorher : b.lebt;
-                }
-                r.getestet = r.getestet || eine(b.lebt);
-            }
-            b.rq = wahl(vorher, rq, b.rq);
-            b.gezaehlt = b.gezaehlt - zaehlt;
-            b.lebt = b.lebt & (rq < grenze);
-        }
-    }
-
-    /// The same on the guess that no lane ends; false, and nothing done, when one does.
-    [[nodiscard, gnu::flatten, gnu::noinline]] bool
-    durcheilen(Buendel& b, const Schrittart& schritt, qint64 schritte) const {
+    [[gnu::flatten, gnu::noinline]] void durchlaufen(const Schlange& q, Buendel& b,
+                                                     const Schrittart& schritt, qint64 schritte) {
         const T grenze(r.grenze);
         Stand<Wert> s = b.s;
         M lebt = b.lebt;
-        for (qint64 i = 0; i < schritte; ++i) {
+        b.blick = s;
+        b.blickBei = b.getan;
+        for (qint64 i = 0; i < schritte && eine(lebt); ++i) {
             const auto abbr = schritt(s);
-            lebt = lebt & (messen(s) < grenze);
+            const T rq = messen(s);
+            M weiter = lebt & (rq < grenze);
             if constexpr (kannAbbrechen) {
-                lebt = lebt & ~abbr;
+                weiter = weiter & ~abbr;
+            }
+            const M ende = lebt & ~weiter;
+            lebt = weiter;
+            if (eine(ende)) {
+                if constexpr (kannAbbrechen) {
+                    enden(q, b, s, rq, ende, ende & abbr, b.getan + i + 1);
+                } else {
+                    enden(q, b, s, rq, ende, M(0), b.getan + i + 1);
+                }
             }
         }
-        if (bits(lebt) != bits(b.lebt)) {
-            return false;
-        }
+        r.getestet = r.getestet || eine(lebt);
+        r.schritteGetan += schritte * L;
         b.s = s;
-        b.gezaehlt = b.gezaehlt - (lebt & M(-schritte));
-        return true;
+        b.lebt = lebt;
+        b.getan += schritte;
     }
 
-    /// The guess pays where a step costs no more than keeping the books.
-    void stueckRechnen(Buendel& b, const Schrittart& schritt, qint64 schritte, bool raten) const {
-        r.schritteGetan += schritte * L;
-        if constexpr (!Formel::teuer) {
-            if (raten && durcheilen(b, schritt, schritte)) {
-                return;
-            }
+    /// Results of lanes whose orbit ends with its step number `schritt`; some of them are aborted.
+    /// Those where the library's arithmetic might have gone another way are left to the point
+    /// kernel, which goes on from the last look unless the state was not to be trusted even there.
+    [[gnu::noinline, gnu::cold]] void enden(const Schlange& q, const Buendel& b,
+                                            const Stand<Wert>& s, const T& rq, const M& welche,
+                                            const M& abgebrochen, qint64 schritt) {
+        alignas(64) double mass[L];
+        rq.speichern(mass);
+        const unsigned abbruch = bits(abgebrochen);
+        const unsigned offen = reell ? 0 : bits(Lauf::verdorben(s) & welche);
+        for (unsigned w = bits(welche); w != 0; w &= w - 1) {
+            const int l = __builtin_ctz(w);
+            const qint32 pixel = q.pixel[b.erster + l];
+            const bool aborted = (abbruch >> l & 1u) != 0;
+            const qint64 gezaehlt = aborted && !Formel::zaehltAbbruch ? schritt - 1 : schritt;
+            r.getestet = r.getestet || !aborted;
+            r.wert[pixel] = aborted ? 0.0 : mass[l];
+            r.zaehler[pixel] = static_cast<qint32>(gezaehlt) + 1;
         }
-        durchlaufen(b, schritt, schritte);
+        if (offen != 0) {
+            offenLassen(q, b, offen);
+        }
+    }
+
+    void offenLassen(const Schlange& q, const Buendel& b, unsigned welche) {
+        alignas(64) double x[L], y[L], p[L], t[L];
+        re(b.blick.z).speichern(x);
+        im(b.blick.z).speichern(y);
+        re(b.blick.w).speichern(p);
+        im(b.blick.w).speichern(t);
+        const unsigned untreu = bits(Lauf::verdorben(b.blick));
+        for (unsigned w = welche; w != 0; w &= w - 1) {
+            const int l = __builtin_ctz(w);
+            const qint32 pixel = q.pixel[b.erster + l];
+            const bool treu = (untreu >> l & 1u) == 0;
+            r.zaehler[pixel] = 0;
+            r.ab[pixel] = {x[l], y[l], p[l], t[l], treu ? static_cast<qint32>(b.blickBei) : 0};
+        }
     }
 
     /// Steps of the round from step `von`, whole pieces.
@@ -166,34 +181,24 @@ class Rundenlauf
         qint32 uebrig = 0;
         for (qint32 i = 0; i < q.anzahl; i += L) {
             const Schrittart schritt = Lauf::schrittMit({T::laden(q.cx + i), T::laden(q.cy + i)});
-            const M belegt = ersteSpuren<Satz, Lauf::Vektoren>(q.anzahl - i);
-            Buendel b{{{T::laden(q.x + i), T::laden(q.y + i)}, {}}, belegt, T(0.0), M(0)};
+            Buendel b{i,
+                      {{T::laden(q.x + i), T::laden(q.y + i)}, {}},
+                      ersteSpuren<Satz, Lauf::Vektoren>(q.anzahl - i),
+                      von};
             if constexpr (zweiWerte) {
                 b.s.w = {T::laden(q.p + i), T::laden(q.t + i)};
             } else {
                 b.s.w = b.s.z;
             }
             const Stand<Wert> anfang = b.s;
-            M periodisch(0);
-            qint64 stand = von;
-            for (qint64 stueck = Lauf::kleiner(erstes, bis - von); stand < bis;
-                 stueck = Lauf::kleiner(Stueck, bis - stand)) {
-                stueckRechnen(b, schritt, stueck, von > 0);
-                stand += stueck;
+            for (qint64 stueck = Lauf::kleiner(erstes, bis - von); b.getan < bis && eine(b.lebt);
+                 stueck = Lauf::kleiner(Stueck, bis - b.getan)) {
+                durchlaufen(q, b, schritt, stueck);
                 if (r.abkuerzung) {
-                    const M neu = Lauf::wiederholt(b.s, anfang) & b.lebt;
-                    if (eine(neu)) {
-                        periodisch = periodisch | neu;
-                        b.lebt = b.lebt & ~neu;
-                        beenden(q, i, b.s, neu, &rest, (r.schritte - stand) % (stand - von));
-                    }
-                }
-                if (!eine(b.lebt)) {
-                    break;
+                    periodischeBeenden(q, rest, b, anfang, von);
                 }
             }
-            eintragen(q, i, b, anfang, belegt & ~b.lebt & ~periodisch, von);
-            if (stand == r.schritte) {
+            if (b.getan == r.schritte) {
                 beenden(q, i, b.s, b.lebt, nullptr, 0);
             } else {
                 uebrig = aufruecken(q, i, uebrig, b);
@@ -202,25 +207,19 @@ class Rundenlauf
         q.anzahl = uebrig;
     }
 
-    /// Results of lanes whose orbit has ended. Those that the point kernel has to finish go on from
-    /// the beginning of the round, unless their state was not to be trusted even there.
-    void eintragen(const Schlange& q, qint32 i, const Buendel& b, const Stand<Wert>& anfang,
-                   const M& welche, qint64 von) {
-        alignas(64) double rq[L];
-        alignas(64) long long gezaehlt[L];
-        b.rq.speichern(rq);
-        b.gezaehlt.speichern(gezaehlt);
-        const unsigned treu = reell ? 0 : bits(~Lauf::verdorben(anfang));
-        for (unsigned w = bits(welche); w != 0; w &= w - 1) {
-            const int l = __builtin_ctz(w);
-            const qint32 pixel = q.pixel[i + l];
-            r.wert[pixel] = rq[l];
-            r.zaehler[pixel] = static_cast<qint32>(von + gezaehlt[l]) + 1;
-            if (!reell && rq[l] != rq[l]) {
-                r.zaehler[pixel] = 0;
-                const qint32 getan = (treu >> l & 1u) != 0 ? static_cast<qint32>(von) : 0;
-                r.ab[pixel] = {q.x[i + l], q.y[i + l], q.p[i + l], q.t[i + l], getan};
+    /// Lanes whose state has come back, since the last look or since the beginning of the round.
+    void periodischeBeenden(const Schlange& q, Rest& rest, Buendel& b, const Stand<Wert>& anfang,
+                            qint64 von) {
+        const auto vergleichen = [&](const Stand<Wert>& frueher, qint64 bei) {
+            const M neu = Lauf::wiederholt(b.s, frueher) & b.lebt;
+            if (eine(neu)) {
+                b.lebt = b.lebt & ~neu;
+                beenden(q, b.erster, b.s, neu, &rest, (r.schritte - b.getan) % (b.getan - bei));
             }
+        };
+        vergleichen(b.blick, b.blickBei);
+        if (b.blickBei != von) {
+            vergleichen(anfang, von);
         }
     }
 

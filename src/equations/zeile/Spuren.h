@@ -209,6 +209,31 @@ Spuren<Satz, n> wahl(const Maske<Satz, n>& m, const Spuren<Satz, n>& dann,
     return {wahl(m.a, dann.a, sonst.a), wahl(m.b, dann.b, sonst.b)};
 }
 
+/// Exchanges the values of two variables in the lanes where m is set.
+template <class Satz>
+void tauschen(const Maske<Satz, 1>& m, Spuren<Satz, 1>& l, Spuren<Satz, 1>& r) {
+    using Bits = typename Maske<Satz, 1>::Register;
+    using Register = typename Spuren<Satz, 1>::Register;
+    const Bits anders = ((Bits)l.v ^ (Bits)r.v) & m.v;
+    l.v = (Register)((Bits)l.v ^ anders);
+    r.v = (Register)((Bits)r.v ^ anders);
+}
+template <class Satz, int n>
+void tauschen(const Maske<Satz, n>& m, Spuren<Satz, n>& l, Spuren<Satz, n>& r) {
+    tauschen(m.a, l.a, r.a);
+    tauschen(m.b, l.b, r.b);
+}
+
+/// The smaller one lane by lane, the second where either is NaN.
+template <class Satz>
+Spuren<Satz, 1> kleineres(const Spuren<Satz, 1>& l, const Spuren<Satz, 1>& r) {
+    return {l.v < r.v ? l.v : r.v};
+}
+template <class Satz, int n>
+Spuren<Satz, n> kleineres(const Spuren<Satz, n>& l, const Spuren<Satz, n>& r) {
+    return {kleineres(l.a, r.a), kleineres(l.b, r.b)};
+}
+
 /// The truth values as bits, the first lane lowest.
 template <class Satz>
 unsigned bits(const Maske<Satz, 1>& m) {
@@ -245,9 +270,13 @@ Maske<Satz, n> nicht(const Maske<Satz, n>& m) {
 }
 
 /// Whether any truth value is set.
-template <class Satz, int n>
-bool eine(const Maske<Satz, n>& m) {
+template <class Satz>
+[[nodiscard]] bool eine(const Maske<Satz, 1>& m) {
     return bits(m) != 0;
+}
+template <class Satz, int n>
+[[nodiscard]] bool eine(const Maske<Satz, n>& m) {
+    return eine(m.a | m.b);
 }
 
 /// The lanes 0 to anzahl - 1.
