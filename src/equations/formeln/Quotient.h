@@ -73,45 +73,40 @@ void einpassen(Teile<T>& t) {
     t.strecken(wahl((g < Epsilon) | einerKlein, T(Vergroesserung), T(1.0)));
 }
 
-} // namespace quotient
-
-/// z / n of a single pixel: compiled once, like the library's.
-[[nodiscard]] std::complex<double> geteilt(const std::complex<double>& z,
-                                           const std::complex<double>& n);
-
-/// z / n. In lanes, a quotient whose parts are both NaN is left to the point kernel; there the
-/// library decides, which recovers infinities.
-template <class K>
-[[nodiscard]] K quotientAus(const K& z, const K& n) {
-    using T = typename K::value_type;
-    const auto getauscht = absolut(re(n)) < absolut(im(n));
-    quotient::Teile<T> t{re(z), im(z), re(n), im(n)};
-    tauschen(getauscht, t.u, t.v);
-    tauschen(getauscht, t.g, t.k);
-    quotient::Zwischenwerte<T> w(t);
-    if (eine(nicht(quotient::gutartig(t, w.q))) && eine(nicht(quotient::gutartigMitNull(t, w)))) {
-        quotient::einpassen(t);
-        w = quotient::Zwischenwerte<T>(t);
+/// The quotient from its parts; `getauscht` where the imaginary part of the denominator is the
+/// larger one.
+template <class K, class T, class Maske>
+[[nodiscard]] K ausTeilen(Teile<T> t, const Maske& getauscht) {
+    Zwischenwerte<T> w(t);
+    if (eine(nicht(gutartig(t, w.q))) && eine(nicht(gutartigMitNull(t, w)))) {
+        einpassen(t);
+        w = Zwischenwerte<T>(t);
         // The other order, where the ratio of the denominator's parts would be too coarse.
-        const auto winzig = nicht(T(quotient::Kleinste) < absolut(w.q));
+        const auto winzig = nicht(T(Kleinste) < absolut(w.q));
         w.uq = wahl(winzig, t.k * (t.u / t.g), w.uq);
         w.vq = wahl(winzig, t.k * (t.v / t.g), w.vq);
     }
-    // Not the one difference negated: the sign of a zero would differ.
     const T x = (t.u + w.vq) / w.norm;
+    // Exchanged, not negated: the sign of a zero would differ.
     tauschen(getauscht, t.v, w.uq);
-    const T y = (t.v - w.uq) / w.norm;
-    if constexpr (std::is_same_v<T, double>) {
-        if (std::isnan(x) && std::isnan(y)) {
-            return z / n;
-        }
-    }
-    return K(x, y);
+    return K(x, (t.v - w.uq) / w.norm);
 }
 
+} // namespace quotient
+
+/// z / n of a single pixel: compiled once, like the library's. Where both parts are NaN the library
+/// decides, which recovers infinities.
+[[nodiscard]] std::complex<double> geteilt(const std::complex<double>& z,
+                                           const std::complex<double>& n);
+
+/// z / n in lanes. A quotient whose parts are both NaN is left to the point kernel.
 template <class T>
 [[nodiscard]] Spurenkomplex<T> geteilt(const Spurenkomplex<T>& z, const Spurenkomplex<T>& n) {
-    return quotientAus(z, n);
+    const auto getauscht = absolut(n.x) < absolut(n.y);
+    quotient::Teile<T> t{z.x, z.y, n.x, n.y};
+    tauschen(getauscht, t.u, t.v);
+    tauschen(getauscht, t.g, t.k);
+    return quotient::ausTeilen<Spurenkomplex<T>>(t, getauscht);
 }
 
 /// z^n by repeated squaring, equal to the bit to the standard library's complex power for an int
