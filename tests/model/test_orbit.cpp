@@ -86,6 +86,26 @@ class TestOrbit : public QObject {
         QCOMPARE(malen(*m), bild);
     }
 
+    void fernePunkte_data() { zeilenAus("model/orbitfern.txt"); }
+    void fernePunkte() {
+        QFETCH(QStringList, spalten);
+        const auto m = orbitprobe("g_OrbitMP=1 " + spalten[0]);
+        malen(*m);
+        QStringList pfad;
+        for (int i = 0; i < m->polygonPathM1.elementCount(); ++i) {
+            const auto element = m->polygonPathM1.elementAt(i);
+            pfad << QString("%1 %2 %3")
+                        .arg(element.isMoveTo() ? "M" : "L")
+                        .arg(element.x, 0, 'f', 0)
+                        .arg(element.y, 0, 'f', 0);
+        }
+        QCOMPARE(pfad.join(' '), spalten[1]);
+        QCOMPARE(m->polygonPathM2, m->polygonPathM1.translated(1, 1));
+        QCOMPARE(m->polygonPathM3, m->polygonPathM1.translated(1, 0));
+        QCOMPARE(m->polygonPathM4, m->polygonPathM1.translated(0, 1));
+        QVERIFY2(m->g_OrbitListeHTMStr.contains(spalten[2]), qPrintable(m->g_OrbitListeHTMStr));
+    }
+
     void farbenUndSammlung() {
         const QStringList farben{"#ffffff", "#ffffff", "#000000", "#808080", "#ff0000", "#ffff00"};
         for (const int farbe : {1, 2, 3, 4, 5, 77}) {
