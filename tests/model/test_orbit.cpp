@@ -142,8 +142,14 @@ class TestOrbit : public QObject {
         QCOMPARE(malen(*m, "click2_Zoom=0.25"), erst);
         QCOMPARE(m->polygonPathM1.elementCount(), elemente);
         QCOMPARE(m->click2_Zoom, 0.25);
-        malen(*m, "OPx=61");
-        QVERIFY(m->polygonPathM1.elementCount() > elemente);
+        malen(*m, "g_OrbitJa=0"); // only the comparison is forgotten
+        const QString liste = m->g_OrbitListeHTMStr;
+        QVERIFY(m->polygonPathM1.elementCount() == elemente && !liste.isEmpty());
+        malen(*m, "g_OrbitJa=1 g_OrbitDuennJa=21");
+        QCOMPARE(m->polygonPathM1.elementCount(), 2 * elemente);
+        QCOMPARE(m->click2_Zoom, 1.0);
+        malen(*m, "OPx=61 click2_Zoom=0.5");
+        QVERIFY(m->polygonPathM1.elementCount() > 2 * elemente);
         QCOMPARE(m->click2_Zoom, 1.0);
     }
 
