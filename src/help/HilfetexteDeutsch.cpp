@@ -21,9 +21,9 @@ wird wie gewohnt jedes Glied mit jedem malgenommen und i*i durch -1 ersetzt:<br>
 Für das Quadrat und für den Abstand vom Nullpunkt heißt das:<br>
 &nbsp;&nbsp;&nbsp;<b>Z*Z = (x*x - y*y) + i*(2*x*y)</b><br>
 &nbsp;&nbsp;&nbsp;|Z| = sqrt(x*x + y*y) &nbsp;&nbsp;(sqrt ist die Quadratwurzel)<br>
-Anschaulich: Das Quadrat verdoppelt den Winkel und quadriert den Abstand. Multiplizieren dreht und
-streckt, das Addieren von C verschiebt. Erst beides im Wechsel, immer wieder, gibt die Wirbel in den
-Bildern.<br>
+Anschaulich: Das Quadrat verdoppelt den Winkel (den die Linie vom Nullpunkt zu Z mit der waagrechten
+Achse bildet) und quadriert den Abstand. Multiplizieren dreht und streckt, das Addieren von C
+verschiebt. Erst beides im Wechsel, immer wieder, gibt die Wirbel in den Bildern.<br>
 <br>
 <b>Die Konjugierte ZS</b><br>
 ZS ist das Spiegelbild von Z an der waagrechten Achse; nur das Vorzeichen von y ändert sich:<br>
@@ -33,10 +33,11 @@ Das Produkt Z*ZS hat keinen Imaginärteil und ist nie negativ: Es ist das Quadra
 den Namen der Gleichungen steht Zq für Z*Z und Zm für Z*ZS.<br>
 <br>
 <b>C, das Raster des Bildes</b><br>
-Das Bild ist ein Ausschnitt dieser Ebene. Bei den ungeraden Gleichungen, außer denen nach Newton,
-steht jeder Bildpunkt für eine Zahl C; bei den anderen beginnt dort Z, und C ist fest. „Mittelpkt.
-X“ und „Mittelpkt. Y“ nennen die Bildmitte, das Feld darunter die Breite. Von einem Bildpunkt zum
-nächsten wächst x nach rechts um einen Schritt, und nach unten fällt y um denselben Schritt:<br>
+Das Bild ist ein Ausschnitt dieser Ebene. Bei Gleichungen mit ungerader Nummer (am Anfang ist es die
+1), außer denen nach Newton, steht jeder Bildpunkt für eine Zahl C; bei den anderen beginnt dort Z,
+und C ist fest. „Mittelpkt. X“ und „Mittelpkt. Y“ nennen die Bildmitte, das Feld darunter die
+Breite. Von einem Bildpunkt zum nächsten wächst x nach rechts um einen Schritt, und nach unten fällt
+y um denselben Schritt:<br>
 &nbsp;&nbsp;&nbsp;Schritt = Breite / Zahl der Bildspalten<br>
 Je kleiner die Breite, desto stärker die Vergrößerung.)html")};
 
@@ -79,7 +80,7 @@ Farben verlaufen weicher.<br>
 <b>Juliamengen</b><br>
 Hält man C fest und beginnt mit Z an jedem Bildpunkt, entsteht eine Juliamenge, zu jedem C eine
 andere. So kommt man hin:<br>
-&nbsp;&nbsp;&nbsp;1. In die Mandelbrotmenge klicken, nahe am Rand. Das Bild wird größer, und der
+&nbsp;&nbsp;&nbsp;1. In die Mandelbrotmenge klicken, nahe am Rand. Das Bild wird vergrößert, und der
 Punkt steht nun bei „C-Julia X“ und „C-Julia Y“.<br>
 &nbsp;&nbsp;&nbsp;2. Die nächste gerade Gleichung wählen, „2: Juliamenge Z=Z*Z +C(const)“. Eine
 kleine Vorschau erscheint.<br>
@@ -122,7 +123,7 @@ Er zeigt, was in einem einzelnen Bildpunkt geschieht: den Weg von Z, Schritt fü
 Linienzug über dem Bild und auf Wunsch als Zahlenliste.<br>
 <br>
 <b>Farben ohne neue Rechnung</b><br>
-Zu jedem Bildpunkt bleiben der letzte Wert rq und die Zahl der Schritte gespeichert. Darum lassen
+Zu jedem Bildpunkt bleiben der letzte Wert rq und der Schrittzähler n gespeichert. Darum lassen
 sich Paletten, Varianten und Faktoren wechseln, ohne neu zu rechnen; die 4x4-Matrix stellt sechzehn
 Farbtafeln nebeneinander.)html")};
 
@@ -133,9 +134,9 @@ Bild gelten so lange nicht. Erst „Start!“ rechnet das Bild. Oder: die Nummer
 eintippen und „Start!“ drücken. Das erste Bild nach dem Programmstart ist nur ein Viertel; im Menü
 „Groesse/Size“ macht „Aktives zum vollem Bild/FullPicture“ es groß.<br>
 Die anderen Einstellungen bleiben, auch Ausschnitt und Farben; so lassen sich Gleichungen
-vergleichen. Ausnahmen: 8 setzt C-Julia auf -1, die Newton-Gleichungen ab 109 setzen ein koppX von 0
-auf 1. Ist nichts Rechtes zu sehen, hilft im Menü „Datei/File“ der Befehl „Reset zum Startbild der
-Gleichung“.<br>
+vergleichen. Ausnahmen: 8 setzt C-Julia auf -1, die Newton-Gleichungen ..09 und ..10 setzen ein
+koppX von 0 auf 1. Ist nichts Rechtes zu sehen, hilft im Menü „Datei/File“ der Befehl „Reset zum
+Startbild der Gleichung“.<br>
 <br>
 <b>Die Potenz K</b> gilt für Gleichungen mit K im Namen, Standard ist 10. Die K-Befehle am Ende des
 Menüs zeichnen nichts, bis „Start!“ gedrückt wird. Heißt es „K ungerade“, zuerst „Potenzzahl K=7“
@@ -236,7 +237,8 @@ Ein Fund beendet die Rechnung nur, wenn sein rq ZahlAbbr erreicht. Bei 4 und
 ZahlAbbr&nbsp;=&nbsp;400 schließt sich der Kreis von C&nbsp;=&nbsp;-1 genau, rq&nbsp;=&nbsp;100, und
 läuft bis maxIter; C&nbsp;=&nbsp;-0.5 nähert sich erst und hört bei n&nbsp;=&nbsp;25 mit
 rq&nbsp;=&nbsp;1169 auf. Sollen alle weiterlaufen: ZahlAbbr erhöhen oder verdoppeln (Standard =
-400), hier auf 2000; dann färbt varKonv sie nach rq.)html")};
+400), hier auf 2000; dann färbt varKonv sie nach rq. Mehr Iterationen oder ein größeres Genau finden
+mehr Zyklen.)html")};
 
 constexpr Hilfetext Zwilling{QT_TRANSLATE_NOOP("UI", "Zum Zwillingsverfahren siehe auch %1"),
                              QT_TRANSLATE_NOOP("UI", R"html(<b>Ein erster Versuch</b><br>
@@ -365,11 +367,12 @@ Die linke Spalte zeigt zum Vergleich die Palette selbst, je nach cTab vertauscht
 grau. Ein Klick auf eine Zelle macht sie zum Einzelbild; „cTab/Matrix +1“ führt zur Matrix und dann
 zum nächsten cTab.<br>
 <br>
-<b>Die Reduktionen</b> setzen vor dem Vertauschen einen der drei Werte fest. Zu sehen sind sie nur
-in den Spalten 2 bis 4 der Matrix, also bei Codes, die auf 2, 3 oder 4 enden. Ein Einzelbild hat am
-Anfang den Code 11: Dort zeigt sich keine, und cTab 14 etwa vertauscht nur Grün und Blau, statt Rot
-auf 128 zu setzen. zahl_Tab ist die Variante 0 bis 11 der Palette, also cTab modulo 12 (der Rest
-beim Teilen durch 12); R11, G11, B11 sind Rot, Grün und Blau der Farbe (bei 0 geschieht nichts):<br>
+<b>Die Reduktionen</b> setzen vor dem Vertauschen einen der drei Werte fest; nur die Variante 1
+kehrt alle drei um. Zu sehen sind sie nur in den Spalten 2 bis 4 der Matrix, also bei Codes, die auf
+2, 3 oder 4 enden. Ein Einzelbild hat am Anfang den Code 11:
+Dort setzt keine einen Wert fest; cTab 14 etwa vertauscht nur Grün und Blau, statt Rot auf 128 zu
+setzen. zahl_Tab ist die Variante 0 bis 11 der Palette, also cTab modulo 12 (der Rest beim Teilen
+durch 12); R11, G11, B11 sind Rot, Grün und Blau der Farbe (bei 0 geschieht nichts):<br>
 if (zahl_Tab == 1) { R11 = ~R11; G11 = ~G11; B11 = ~B11; }
 <table cellspacing="0" cellpadding="1">
 <tr><td>if (zahl_Tab == 2) R11 = 128;&nbsp;&nbsp;&nbsp;</td>
@@ -388,8 +391,8 @@ constexpr Hilfetext Div{
 Divergent heißt ein Bildpunkt, dessen Rechnung vor maxIter abbricht, bei der Mandelbrotmenge also
 alles außerhalb. Zwei Zahlen bleiben von ihm übrig:<br>
 &nbsp;&nbsp;&nbsp;<b>n</b>: die Zahl der Schritte plus 1, denn n zählt ab 1<br>
-&nbsp;&nbsp;&nbsp;<b>rq</b>: der letzte gemessene Wert, der erste also, der ZahlAbbr erreicht
-hat<br>
+&nbsp;&nbsp;&nbsp;<b>rq</b>: der letzte gemessene Wert (am Anfang x*x + y*y), der erste also, der
+ZahlAbbr erreicht hat<br>
 C&nbsp;=&nbsp;100 ist nach einem Schritt fertig: n&nbsp;=&nbsp;2, rq&nbsp;=&nbsp;10000.
 C&nbsp;=&nbsp;1 geht 1, 2, 5, 26: n&nbsp;=&nbsp;5, rq&nbsp;=&nbsp;676.<br>
 n springt von Ring zu Ring um 1 und gibt scharfe Streifen. rq ändert sich im Ring stetig, etwa
@@ -451,7 +454,7 @@ Konvergent heißt hier ein Bildpunkt, dessen Rechnung bis maxIter läuft, ohne Z
 das Innere der Mandelbrotmenge. Oft wird es einfach schwarz gemalt. Doch auch dort bleibt ein
 letzter Wert rq, und der erzählt, wo Z zur Ruhe gekommen ist:<br>
 &nbsp;&nbsp;&nbsp;<b>n</b> = maxIter, für alle diese Punkte gleich<br>
-&nbsp;&nbsp;&nbsp;<b>rq</b>: der letzte Wert, meist eine kleine Zahl<br>
+&nbsp;&nbsp;&nbsp;<b>rq</b>: der letzte Wert (am Anfang x*x + y*y), meist eine kleine Zahl<br>
 Strebt Z zu einem Fixpunkt, wechselt die Farbe von Punkt zu Punkt weich. In einem Zyklus hängt rq
 davon ab, bei welchem seiner Werte maxIter erreicht war. FacKonv dehnt oder staucht den
 Farbverlauf.<br>

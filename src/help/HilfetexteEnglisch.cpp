@@ -21,9 +21,9 @@ term with every other as usual and replace i*i by -1:<br>
 For the square, and for the distance from the origin, this gives:<br>
 &nbsp;&nbsp;&nbsp;<b>Z*Z = (x*x - y*y) + i*(2*x*y)</b><br>
 &nbsp;&nbsp;&nbsp;|Z| = sqrt(x*x + y*y) &nbsp;&nbsp;(sqrt is the square root)<br>
-Seen as a picture: squaring doubles the angle and squares the distance. Multiplication turns and
-stretches, adding C shifts. Only both in turn, over and over again, make the whirls in the
-pictures.<br>
+Seen as a picture: squaring doubles the angle (that the line from the origin to Z makes with the
+horizontal axis) and squares the distance. Multiplication turns and stretches, adding C shifts. Only
+both in turn, over and over again, make the whirls in the pictures.<br>
 <br>
 <b>The conjugate ZS</b><br>
 ZS is the mirror image of Z at the horizontal axis; only the sign of y changes:<br>
@@ -33,11 +33,11 @@ The product Z*ZS has no imaginary part and is never negative: it is the distance
 names of the equations, Zq stands for Z*Z and Zm for Z*ZS.<br>
 <br>
 <b>C, the grid of the picture</b><br>
-The picture is a section of this plane. For the odd equations, except those by Newton's method,
-every pixel stands for one number C; for the others Z starts there, and C is fixed. The fields next
-to "CenterX =0" and "CenterY =0" give the middle of the picture, the field below them its width.
-From one pixel to the next, x grows by one step to the right, and y falls by the same step
-downward:<br>
+The picture is a section of this plane. For equations with an odd number (at the start it is 1),
+except those by Newton's method, every pixel stands for one number C; for the others Z starts there,
+and C is fixed. The fields next to "CenterX =0" and "CenterY =0" give the middle of the picture, the
+field below them its width. From one pixel to the next, x grows by one step to the right, and y
+falls by the same step downward:<br>
 &nbsp;&nbsp;&nbsp;step = width / number of picture columns<br>
 The smaller the width, the stronger the magnification.)html")};
 
@@ -121,7 +121,7 @@ It shows what happens in a single pixel: the path of Z, step by step, as a polyg
 picture and, if you like, as a list of numbers.<br>
 <br>
 <b>Colors without a new calculation</b><br>
-For every pixel the last value rq and the number of steps are kept. So palettes, variants and
+For every pixel the last value rq and the step counter n are kept. So palettes, variants and
 factors can be changed without calculating again; the 4x4 matrix puts sixteen color tables side by
 side.)html")};
 
@@ -132,7 +132,7 @@ shows, clicks into the picture do not count. Only "Start!" calculates the pictur
 number at the top of the control panel and press "Start!". The first picture of the program is only
 a quarter; in the menu "Groesse/Size", "Aktives zum vollem Bild/FullPicture" makes it large.<br>
 The other settings are carried over, section and colors included, so that equations can be compared.
-Exceptions: 8 sets C-Julia to -1, the Newton equations from 109 on change a koppX of 0 to 1. If
+Exceptions: 8 sets C-Julia to -1, the Newton equations ..09 and ..10 change a koppX of 0 to 1. If
 there is nothing much to see, use "Datei/File", "Reset zum Startbild der Gleichung": it brings back
 the start picture of the equation.<br>
 <br>
@@ -235,7 +235,7 @@ A find ends the calculation only if its rq reaches ZahlAbbr. With 4 and ZahlAbbr
 circle of C&nbsp;=&nbsp;-1 closes exactly, rq&nbsp;=&nbsp;100, and runs on to maxIter;
 C&nbsp;=&nbsp;-0.5 is still approaching and stops at n&nbsp;=&nbsp;25 with rq&nbsp;=&nbsp;1169. If
 you want all of them to run on: increase/double the ZahlAbbruch (default=400), here to 2000; then
-varKonv colors them by rq.)html")};
+varKonv colors them by rq. More iterations or a larger Genau find more cycles.)html")};
 
 constexpr Hilfetext Twin{QT_TRANSLATE_NOOP("UI", "On the twin method see also %1"),
                          QT_TRANSLATE_NOOP("UI", R"html(<b>A first try</b><br>
@@ -363,11 +363,12 @@ The left column shows the palette itself for comparison, swapped, inverted or in
 cTab. A click on a cell makes it the single picture; "cTab/Matrix +1" leads to the matrix and then
 to the next cTab.<br>
 <br>
-<b>The reductions</b> fix one of the three values before the swapping. They show only in the columns
-2 to 4 of the matrix, that is with codes that end in 2, 3 or 4. A single picture starts with code
-11: there none of them shows, and cTab 14, for example, only swaps green and blue instead of setting
-red to 128. zahl_Tab is the variant 0 to 11 of the palette, that is cTab modulo 12 (the remainder of
-the division by 12); R11, G11, B11 are the red, green and blue of the color (0 does nothing):<br>
+<b>The reductions</b> fix one of the three values before the swapping; only variant 1 inverts all
+three. They show only in the columns 2 to 4 of the matrix, that is with codes that end in 2, 3 or 4.
+A single picture starts with code 11: there
+none of them fixes a value; cTab 14, for example, only swaps green and blue instead of setting red
+to 128. zahl_Tab is the variant 0 to 11 of the palette, that is cTab modulo 12 (the remainder of the
+division by 12); R11, G11, B11 are the red, green and blue of the color (0 does nothing):<br>
 if (zahl_Tab == 1) { R11 = ~R11; G11 = ~G11; B11 = ~B11; }
 <table cellspacing="0" cellpadding="1">
 <tr><td>if (zahl_Tab == 2) R11 = 128;&nbsp;&nbsp;&nbsp;</td>
@@ -386,8 +387,8 @@ constexpr Hilfetext DivEn{
 A pixel is called divergent when its calculation stops before maxIter; for the Mandelbrot set that
 is everything outside. Two numbers are left of it:<br>
 &nbsp;&nbsp;&nbsp;<b>n</b>: the number of steps plus 1, since n counts from 1<br>
-&nbsp;&nbsp;&nbsp;<b>rq</b>: the last value measured, that is the first one that reached
-ZahlAbbr<br>
+&nbsp;&nbsp;&nbsp;<b>rq</b>: the last value measured (x*x + y*y at the start), that is the first one
+that reached ZahlAbbr<br>
 C&nbsp;=&nbsp;100 is finished after one step: n&nbsp;=&nbsp;2, rq&nbsp;=&nbsp;10000. C&nbsp;=&nbsp;1
 goes 1, 2, 5, 26: n&nbsp;=&nbsp;5, rq&nbsp;=&nbsp;676.<br>
 n jumps by 1 from ring to ring and gives sharp stripes. rq changes steadily within a ring, between
@@ -449,7 +450,7 @@ A pixel is called convergent here when its calculation runs up to maxIter withou
 the inside of the Mandelbrot set. Often it is simply painted black. Yet there, too, a last value rq
 is left, and it tells where Z has come to rest:<br>
 &nbsp;&nbsp;&nbsp;<b>n</b> = maxIter, the same for all these pixels<br>
-&nbsp;&nbsp;&nbsp;<b>rq</b>: the last value, mostly a small number<br>
+&nbsp;&nbsp;&nbsp;<b>rq</b>: the last value (x*x + y*y at the start), mostly a small number<br>
 Where Z tends to a fixed point, the color changes softly from pixel to pixel. In a cycle, rq depends
 on which of its values came last when maxIter was reached. FacKonv stretches or squeezes the run of
 colors.<br>
