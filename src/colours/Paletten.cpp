@@ -53,10 +53,11 @@ double helligkeit(double welle) {
 
 /// A run of colours that leads to one main colour.
 struct Abschnitt {
-    int farben;       ///< length
-    std::size_t ziel; ///< main colour, index into the chosen rows
-    int teiler;       ///< colour difference / teiler is the step; 0 = the main colour itself
-    bool einrasten;   ///< a channel that leaves 0..255 takes the main colour's value
+    int farben;            ///< length
+    std::size_t ziel;      ///< main colour, index into the chosen rows
+    int teiler;            ///< colour difference / teiler is the step; 0 = the main colour itself
+    bool einrasten;        ///< a channel that leaves 0..255 takes the main colour's value
+    bool beiseite = false; ///< the working values stay what the ramp before left
 };
 
 // The divisor 132 is meant: its steps are wider than the run is long, so the channels overshoot
@@ -68,6 +69,8 @@ constexpr std::array<Abschnitt, 5> DreiAbschnitte{{
     {232, 2, 232, false},
     {52, 2, 0, false},
 }};
+// Only colour B is where the next ramp starts; the one after colour E goes on from what the ramps
+// before it left. Meant.
 constexpr std::array<Abschnitt, 8> SechsAbschnitte{{
     {1, 0, 0, false},
     {101, 1, 101, true},
@@ -75,7 +78,7 @@ constexpr std::array<Abschnitt, 8> SechsAbschnitte{{
     {102, 2, 102, true},
     {102, 3, 102, true},
     {102, 4, 102, true},
-    {33, 4, 0, false},
+    {33, 4, 0, false, true},
     {108, 5, 108, true},
 }};
 
@@ -103,6 +106,7 @@ void rampen(std::span<quint8> ziel, std::span<const Abschnitt> abschnitte,
     std::size_t stelle = 0;
     for (const Abschnitt& a : abschnitte) {
         const std::array<qint32, Kanaele>& nach = grundfarbe(reihen[a.ziel]);
+        const auto davor = arbeit;
         for (int i = 0; i < a.farben; ++i) {
             for (std::size_t k = 0; k < Kanaele; ++k) {
                 if (a.teiler == 0) {
@@ -115,6 +119,9 @@ void rampen(std::span<quint8> ziel, std::span<const Abschnitt> abschnitte,
                 }
                 ziel[stelle++] = static_cast<quint8>(arbeit[k]);
             }
+        }
+        if (a.beiseite) {
+            arbeit = davor;
         }
         von = nach;
     }

@@ -134,6 +134,6 @@ qint32 juliaPartner(qint32 nummer) noexcept {
 
 void Mandelbrot::EquationName() {
     const Gleichung* gleichung = findeGleichung(wahl_Gleichung);
-    const std::string_view name = gleichung != nullptr ? gleichung->name : std::string_view{" "};
-    g_NameGlg = QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size()));
+    // Every name is a whole literal, so it ends in a zero byte as tr wants it.
+    g_NameGlg = gleichung != nullptr ? tr(gleichung->name.data()) : QString(" ");
 }

@@ -3,7 +3,7 @@
 #include "UI_Hauptfenster.h"
 
 // Left to itself, a message box wraps at 500 pixels and a long text grows taller than the screen.
-static constexpr int g_Textbreite = 108; // average characters
+static constexpr int g_Textbreite = 116; // average characters
 
 /// A translated text with its placeholders filled.
 static QString fuelle(const UI& fenster, const char* quelle) {

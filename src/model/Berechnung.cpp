@@ -25,6 +25,8 @@ void bildflaecheAnpassen(Mandelbrot& m, const Bildlauf& lauf) {
     }
 }
 
+bool wirdGeloescht(const Mandelbrot& m) { return m.g_BildLoeschen == 1 || m.g_BildLoeschen == 2; }
+
 /// Julia type, family, name and the halves of K.
 void gleichungstyp(Mandelbrot& m, Bildlauf& lauf) {
     m.g_JuliaJa = m.wahl_Gleichung % 2 == 0 ? 1 : 0;
@@ -61,7 +63,7 @@ void anforderungBestimmen(Mandelbrot& m, Bildlauf& lauf) {
 /// A picture to be cleared is computed with equation 0: every pixel stores the preset count.
 void loeschenVorbereiten(Mandelbrot& m, Bildlauf& lauf) {
     lauf.wahlrett = m.wahl_Gleichung;
-    if (m.g_BildLoeschen != 1 && m.g_BildLoeschen != 2) {
+    if (!wirdGeloescht(m)) {
         return;
     }
     m.g_RechnenJa = Rechnen;
@@ -90,6 +92,9 @@ void nachsorge(Mandelbrot& m, const Bildlauf& lauf) {
 
 void Mandelbrot::Berechnung(QPainter* Paint) {
     felderRichten(*this);
+    if (g_OrbitJa < 1) {
+        letzterOrbit.reset(); // switched on again, the same orbit is a new one
+    }
     if (g_OrbitJa > 0 && g_RechnenJa == VorschauRechnen && g_OrbitMP == 0) {
         Q_EMIT OrbitOffSignal();
         return;
@@ -100,7 +105,8 @@ void Mandelbrot::Berechnung(QPainter* Paint) {
     if (!bildgroesse(*this, lauf)) {
         return;
     }
-    if (g_VorschauAusJa == 1 && g_RechnenJa == VorschauRechnen) {
+    // A picture is never cleared as a preview.
+    if (g_RechnenJa == VorschauRechnen && (g_VorschauAusJa == 1 || wirdGeloescht(*this))) {
         g_RechnenJa = Rechnen;
     }
     lauf.Matrix = zahl_Matrix >= MatrixEin;

@@ -3,8 +3,12 @@
 #include "model/Orbitliste.h"
 #include "Runden.h"
 
+#include <QLineF>
+
 #include <algorithm>
 #include <bit>
+#include <optional>
+#include <vector>
 
 namespace {
 
@@ -33,12 +37,7 @@ Stifte stifteFuer(qint32 farbe) {
     }
 }
 
-/// Pixels for a path; NaN goes to the left or upper edge.
-double pfadPixel(double wert) {
-    return std::isnan(wert) ? -PfadGrenze : std::clamp(wert, -PfadGrenze, PfadGrenze);
-}
-
-/// Maps plane points to pixels of this run.
+/// Maps plane points to pixels of this run. The pixels may lie anywhere, or be infinite or NaN.
 struct Abbildung {
     double startX, startY; ///< start pixel
     double nullX, nullY;   ///< pixel of the plane's origin
@@ -53,12 +52,8 @@ struct Abbildung {
         nullY = std::trunc(jeY * m.MP_y / hoehe) + lauf.CyStart + lauf.ZeilenKLHalbe;
     }
 
-    [[nodiscard]] double x(double wert) const {
-        return pfadPixel(std::trunc(jeX * wert / breite) + nullX);
-    }
-    [[nodiscard]] double y(double wert) const {
-        return pfadPixel(nullY - std::trunc(jeY * wert / hoehe));
-    }
+    [[nodiscard]] double x(double wert) const { return std::trunc(jeX * wert / breite) + nullX; }
+    [[nodiscard]] double y(double wert) const { return nullY - std::trunc(jeY * wert / hoehe); }
 };
 
 /// Recorded points up to the end mark, at most OrbitLaengeVoll.
@@ -85,12 +80,69 @@ Orbitstand standVon(const Mandelbrot& m, const Abbildung& abb, std::size_t n) {
     return stand;
 }
 
-/// The polygon through the orbit, shifted by whole pixels.
-void anhaengen(QPainterPath& pfad, const Mandelbrot& m, const Abbildung& abb, std::size_t n, int dx,
-               int dy) {
-    pfad.moveTo(pfadPixel(abb.startX) + dx, pfadPixel(abb.startY) + dy);
+/// The part of a line that lies within +-PfadGrenze. Lines are cut, not coordinates: a line to a
+/// far point must leave the picture in its true direction.
+std::optional<QLineF> zugeschnitten(const QLineF& linie) {
+    double ab = 0.0;
+    double bis = 1.0;
+    for (const auto& [von, nach] :
+         {std::pair{linie.x1(), linie.x2()}, std::pair{linie.y1(), linie.y2()}}) {
+        const double halberWeg = nach / 2 - von / 2; // the whole way can exceed the largest double
+        if (halberWeg == 0.0) {
+            if (std::abs(von) > PfadGrenze) {
+                return std::nullopt;
+            }
+            continue;
+        }
+        const double links = (-PfadGrenze / 2 - von / 2) / halberWeg;
+        const double rechts = (PfadGrenze / 2 - von / 2) / halberWeg;
+        ab = std::max(ab, std::min(links, rechts));
+        bis = std::min(bis, std::max(links, rechts));
+    }
+    if (ab >= bis) {
+        return std::nullopt;
+    }
+    const auto bei = [&linie](double t) {
+        const auto auf = [t](double von, double nach) {
+            return std::clamp(std::lerp(von, nach, t), -PfadGrenze, PfadGrenze);
+        };
+        return QPointF(auf(linie.x1(), linie.x2()), auf(linie.y1(), linie.y2()));
+    };
+    return QLineF(bei(ab), bei(bis));
+}
+
+struct Pfadschritt {
+    QPointF ziel;
+    bool linie = true; ///< false: a new piece begins here
+};
+using Linienzug = std::vector<Pfadschritt>;
+
+/// The polygon through the orbit. What lies beyond the limit becomes a gap; a point that is not
+/// finite ends it.
+Linienzug linienzug(const Mandelbrot& m, const Abbildung& abb, std::size_t n) {
+    QPointF von(abb.startX, abb.startY);
+    Linienzug zug{{von, false}};
     for (std::size_t i = 1; i <= n; ++i) {
-        pfad.lineTo(abb.x(m.OrbitX[i]) + dx, abb.y(m.OrbitY[i]) + dy);
+        const QPointF nach(abb.x(m.OrbitX[i]), abb.y(m.OrbitY[i]));
+        if (!std::isfinite(nach.x()) || !std::isfinite(nach.y())) {
+            break;
+        }
+        if (const auto teil = zugeschnitten({von, nach})) {
+            if (teil->p1() != zug.back().ziel) {
+                zug.push_back({teil->p1(), false});
+            }
+            zug.push_back({teil->p2()});
+        }
+        von = nach;
+    }
+    return zug;
+}
+
+/// Adds the polygon, shifted by whole pixels.
+void anhaengen(QPainterPath& pfad, const Linienzug& zug, int dx, int dy) {
+    for (const auto& [ziel, linie] : zug) {
+        const QPointF punkt = ziel + QPointF(dx, dy);
+        linie ? pfad.lineTo(punkt) : pfad.moveTo(punkt);
     }
 }
 
@@ -106,11 +158,11 @@ void leerenWennVerlangt(Mandelbrot& m) {
     m.letzterOrbit.reset();
 }
 
-void sammeln(Mandelbrot& m, const Abbildung& abb, std::size_t n) {
-    anhaengen(m.polygonPathM1, m, abb, n, 0, 0);
-    anhaengen(m.polygonPathM2, m, abb, n, 1, 1);
-    anhaengen(m.polygonPathM3, m, abb, n, 1, 0);
-    anhaengen(m.polygonPathM4, m, abb, n, 0, 1);
+void sammeln(Mandelbrot& m, const Linienzug& zug) {
+    anhaengen(m.polygonPathM1, zug, 0, 0);
+    anhaengen(m.polygonPathM2, zug, 1, 1);
+    anhaengen(m.polygonPathM3, zug, 1, 0);
+    anhaengen(m.polygonPathM4, zug, 0, 1);
 }
 
 void malen(QPainter& maler, const QPainterPath& pfad, const QColor& farbe) {
@@ -118,11 +170,11 @@ void malen(QPainter& maler, const QPainterPath& pfad, const QColor& farbe) {
     maler.drawPath(pfad);
 }
 
-void pfadeMalen(const Mandelbrot& m, const Abbildung& abb, std::size_t n, QPainter& maler) {
+void pfadeMalen(const Mandelbrot& m, const Linienzug& zug, QPainter& maler) {
     const Stifte stifte = stifteFuer(m.g_OrbitJa);
     const auto dieserOrbit = [&](int dx, int dy) {
         QPainterPath pfad;
-        anhaengen(pfad, m, abb, n, dx, dy);
+        anhaengen(pfad, zug, dx, dy);
         return pfad;
     };
     if (m.g_OrbitDuennJa < AlleDick) {
@@ -207,12 +259,13 @@ void orbitZeichnen(Mandelbrot& menge, const Bildlauf& lauf) {
 
     Orbitstand stand = standVon(menge, abb, n);
     const bool neu = menge.letzterOrbit != stand;
+    const Linienzug zug = linienzug(menge, abb, n);
     if (neu) {
-        sammeln(menge, abb, n);
+        sammeln(menge, zug);
         menge.letzterOrbit = std::move(stand);
     }
     menge.g_OrbitListeHTMStr = listeVon(menge, abb, n);
-    pfadeMalen(menge, abb, n, *lauf.maler);
+    pfadeMalen(menge, zug, *lauf.maler);
     if (neu) {
         menge.click2_Zoom = 1.0;
     }

@@ -59,12 +59,12 @@ constexpr std::array<Vollbildvorschau, 4> Vollbildvorschauen{{
 QString titelGleichung(const Mandelbrot& m) {
     QString text;
     if (m.g_OrbitJa == 0) {
-        text += " >> " + m.g_NameGlg + " <<";
+        text += UI::tr(" >> ") + m.g_NameGlg + UI::tr(" <<");
     }
     if (m.g_JuliaJa == 1 && m.g_OrbitJa == 0) {
         text += UI::tr(" (Julia-Verfahren),");
     }
-    text += m.g_OrbitMP == 1 ? " MP-" : " ";
+    text += m.g_OrbitMP == 1 ? UI::tr(" MP-") : QString(" ");
     if (m.g_OrbitJa > 0) {
         text += UI::tr("Orbit bei ") + m.g_OrbitStartString + m.g_OrbitEndString + ",";
     }
@@ -167,7 +167,7 @@ void UI::FeldLesen() {
 }
 
 void UI::SetNewTitle() {
-    setWindowTitle("Wirbelwerk" + Menge->g_Versionsnummer + titelGleichung(*Menge) +
+    setWindowTitle(tr("Wirbelwerk") + Menge->g_Versionsnummer + titelGleichung(*Menge) +
                    titelBild(*Menge));
 }
 

@@ -3,7 +3,7 @@
 
 UI::UI() : QMainWindow(nullptr) {
     // The trailing blank is meant; SetNewTitle replaces the title later.
-    setWindowTitle(QString("Wirbelwerk (%1) ").arg(Netzadresse));
+    setWindowTitle(tr("Wirbelwerk (%1) ").arg(Netzadresse));
     // No maximise button: the size of the picture is chosen from the menu.
     setWindowFlags(Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint |
                    Qt::WindowCloseButtonHint);

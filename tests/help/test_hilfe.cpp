@@ -186,9 +186,10 @@ class TestHilfe : public QObject {
         QVERIFY2(zitate > 60, qPrintable(QString::number(zitate)));
     }
 
-    /// The numbers of the start picture and the catalogue, and what is worded on purpose.
+    /// The numbers of the start picture and the catalogue, what single points come to, and what is
+    /// worded on purpose.
     void tatsachen() {
-        const M& m = *m_fenster.Menge;
+        M& m = *m_fenster.Menge;
         const double rand = m.Br_x / 2;
         QList<std::pair<Hilfethema, QString>> saetze{
             {Hilfethema::Fraktale, QString("C(%1, %2)").arg(m.MP_x - rand).arg(rand)},
@@ -196,9 +197,27 @@ class TestHilfe : public QObject {
             {Hilfethema::Fraktale, QString("ZahlAbbr = %1?").arg(m.wert_Abbruch)},
             {Hilfethema::Fraktale, QString("Zoom = %1 ").arg(m.click2_Zoom)},
             {Hilfethema::SpezialFraktale, QString("%1 ").arg(gleichungen().size())},
+            {Hilfethema::Fraktale, QString(" %1").arg(m.Max_Iterationen - 1)},
+            {Hilfethema::Berechnung, QString(" %1").arg(m.Max_Iterationen - 1)},
+            {Hilfethema::Berechnung, QString("/%1, ").arg(m.g_zycmax)},
             // Slip and double blank are meant.
             {Hilfethema::FarbTab, "cTab 0-11, 12-23,  24-32, 36-47"},
             {Hilfethema::FarbTab, "if (zahl_Tab == 1) { R11 = ~R11; G11 = ~G11; B11 = ~B11; }"}};
+        // constant, bailout, does the text say the count
+        for (const auto& [thema, c, art, mitZahl] : {std::tuple{Hilfethema::Div, 100.0, 1, true},
+                                                     {Hilfethema::Div, 1.0, 1, true},
+                                                     {Hilfethema::Berechnung, 100.0, 1, true},
+                                                     {Hilfethema::Berechnung, -0.5, 4, true},
+                                                     {Hilfethema::Berechnung, -0.5, 5, false}}) {
+            m.glg_Abbruch = art;
+            m.xm.fill(1000.0);
+            const double rq = m.IterateZmalZplusC(0.0, 0.0, c, 0.0);
+            saetze << std::pair{thema, QString("rq = %1").arg(qRound(rq))};
+            if (mitZahl) {
+                saetze << std::pair{thema, QString("n = %1").arg(m.privateIterat)};
+            }
+        }
+        m.glg_Abbruch = 1;
         for (const auto& [thema, satz] : saetze) {
             for (const QString& text : texte(thema)) {
                 QVERIFY2(sichtbar(text).contains(satz), qPrintable(satz));

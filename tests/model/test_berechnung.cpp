@@ -94,14 +94,16 @@ class TestBerechnung : public QObject {
 
     void loeschen() {
         for (const QString felder :
-             {"g_BildLoeschen=1", "g_BildLoeschen=2", "g_BildLoeschen=2 g_OrbitJa=1"}) {
-            const auto m = bildprobe(60, 40);
-            malen(*m);
+             {"g_BildLoeschen=1", "g_BildLoeschen=2", "g_BildLoeschen=2 g_OrbitJa=1",
+              "g_BildLoeschen=1 g_RechnenJa=3"}) {
+            const auto m = bildprobe(60, 45);
+            malen(*m, "g_PixVorschauX=20 g_PixVorschauY=20");
             setze(*m, felder);
             const int anzahl = m->g_BildLoeschen == 1 ? 0 : 50;
             for (int mal = 0; mal < 2; ++mal) { // and stays cleared
                 malen(*m);
-                QCOMPARE(abweichung(*m, "g_BildLoeschen=0 wahl_Gleichung=1"), QString());
+                QCOMPARE(abweichung(*m, "g_BildLoeschen=0 wahl_Gleichung=1 g_halbesBild=0 Br_y=3"),
+                         QString()); // with the picture's geometry, never a preview's
                 QCOMPARE(m->ImageIntegers[20][30], anzahl);
                 QCOMPARE(m->ImageDoubles[20][30], 0.0);
             }

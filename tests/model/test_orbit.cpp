@@ -86,6 +86,26 @@ class TestOrbit : public QObject {
         QCOMPARE(malen(*m), bild);
     }
 
+    void fernePunkte_data() { zeilenAus("model/orbitfern.txt"); }
+    void fernePunkte() {
+        QFETCH(QStringList, spalten);
+        const auto m = orbitprobe("g_OrbitMP=1 " + spalten[0]);
+        malen(*m);
+        QStringList pfad;
+        for (int i = 0; i < m->polygonPathM1.elementCount(); ++i) {
+            const auto element = m->polygonPathM1.elementAt(i);
+            pfad << QString("%1 %2 %3")
+                        .arg(element.isMoveTo() ? "M" : "L")
+                        .arg(element.x, 0, 'f', 0)
+                        .arg(element.y, 0, 'f', 0);
+        }
+        QCOMPARE(pfad.join(' '), spalten[1]);
+        QCOMPARE(m->polygonPathM2, m->polygonPathM1.translated(1, 1));
+        QCOMPARE(m->polygonPathM3, m->polygonPathM1.translated(1, 0));
+        QCOMPARE(m->polygonPathM4, m->polygonPathM1.translated(0, 1));
+        QVERIFY2(m->g_OrbitListeHTMStr.contains(spalten[2]), qPrintable(m->g_OrbitListeHTMStr));
+    }
+
     void farbenUndSammlung() {
         const QStringList farben{"#ffffff", "#ffffff", "#000000", "#808080", "#ff0000", "#ffff00"};
         for (const int farbe : {1, 2, 3, 4, 5, 77}) {
@@ -122,8 +142,14 @@ class TestOrbit : public QObject {
         QCOMPARE(malen(*m, "click2_Zoom=0.25"), erst);
         QCOMPARE(m->polygonPathM1.elementCount(), elemente);
         QCOMPARE(m->click2_Zoom, 0.25);
-        malen(*m, "OPx=61");
-        QVERIFY(m->polygonPathM1.elementCount() > elemente);
+        malen(*m, "g_OrbitJa=0"); // only the comparison is forgotten
+        const QString liste = m->g_OrbitListeHTMStr;
+        QVERIFY(m->polygonPathM1.elementCount() == elemente && !liste.isEmpty());
+        malen(*m, "g_OrbitJa=1 g_OrbitDuennJa=21");
+        QCOMPARE(m->polygonPathM1.elementCount(), 2 * elemente);
+        QCOMPARE(m->click2_Zoom, 1.0);
+        malen(*m, "OPx=61 click2_Zoom=0.5");
+        QVERIFY(m->polygonPathM1.elementCount() > 2 * elemente);
         QCOMPARE(m->click2_Zoom, 1.0);
     }
 

@@ -2,6 +2,8 @@
 #include "Texttabelle.h"
 #include "UI_Hauptfenster.h"
 
+#include <QTranslator>
+
 // Every command: all that it can change is compared before and after, so a command that writes one
 // field more than its row says is caught as well.
 
@@ -21,6 +23,16 @@ class Bildzaehler : public QObject {
         static_cast<Mandelbrot*>(bild)->g_NameGlg = QString("name %1").arg(++anzahl);
         return true;
     }
+};
+
+/// Translates every text into small letters.
+class Kleinschrift : public QTranslator {
+  public:
+    QString translate(const char* /*context*/, const char* quelle, const char* /*disambiguation*/,
+                      int /*n*/) const override {
+        return QString::fromUtf8(quelle).toLower();
+    }
+    bool isEmpty() const override { return false; }
 };
 
 /// What a command can change, as text: fields, boxes (">" and the name), labels and the rest.
@@ -124,12 +136,22 @@ class TestBefehle : public QObject {
             setzeFeld(*fenster.Menge, feld, 0);
         }
         setze(*fenster.Menge, "g_Gitterabstand=0.125 g_kPotenz=10 g_zycmax=7 " + spalten[0]);
-        fenster.Menge->g_Versionsnummer = "V";
-        fenster.Menge->g_NameGlg = "Name";
+        fenster.Menge->g_Versionsnummer = "v";
+        fenster.Menge->g_NameGlg = "name";
         fenster.Menge->g_OrbitStartString = "[a]";
         fenster.Menge->g_OrbitEndString = " [b]";
         fenster.SetNewTitle();
-        QCOMPARE('"' + fenster.windowTitle() + '"', "\"WirbelwerkV" + spalten[1].mid(1));
+        const QString soll = "\"Wirbelwerkv" + spalten[1].mid(1);
+        QCOMPARE('"' + fenster.windowTitle() + '"', soll);
+        // All of its words can be translated, the equation's name as well.
+        Kleinschrift uebersetzer;
+        QVERIFY(QCoreApplication::installTranslator(&uebersetzer));
+        fenster.SetNewTitle();
+        fenster.Menge->wahl_Gleichung = 105;
+        fenster.Menge->EquationName();
+        QCoreApplication::removeTranslator(&uebersetzer);
+        QCOMPARE('"' + fenster.windowTitle() + '"', soll.toLower());
+        QCOMPARE(fenster.Menge->g_NameGlg, "105: z=(z+c)/(1+c*z^3) complex vierpol");
     }
 
     void titelNachDemBild() {
