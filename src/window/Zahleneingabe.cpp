@@ -63,8 +63,11 @@ class Zahleneingabe : public QValidator {
         if (beobachtet == &zeile && ereignis->type() == QEvent::Paint) {
             ganzeZiffernZeigen();
         } else if (beobachtet == &box && ereignis->type() == QEvent::ToolTip) {
+            // As the window's own, since a tip takes on the colours of a panel's style sheet.
+            QWidget* fenster = box.window();
             QToolTip::showText(static_cast<QHelpEvent*>(ereignis)->globalPos(),
-                               QString::number(wert(), 'g', QLocale::FloatingPointShortest), &box);
+                               QString::number(wert(), 'g', QLocale::FloatingPointShortest),
+                               fenster, QRect(box.mapTo(fenster, QPoint(0, 0)), box.size()));
             return true;
         }
         return QValidator::eventFilter(beobachtet, ereignis);
