@@ -8,11 +8,9 @@
 #include <QThread>
 #include <QTimer>
 
-namespace {
+static QString g_gesehen; ///< name and title of the running program
 
-QString g_gesehen; ///< what the running program is
-
-void hineinsehen() {
+static void hineinsehen() {
     auto* uhr = new QTimer(qApp);
     QObject::connect(uhr, &QTimer::timeout, qApp, [] {
         for (QWidget* fenster : QApplication::topLevelWidgets()) {
@@ -27,15 +25,13 @@ void hineinsehen() {
 }
 Q_COREAPP_STARTUP_FUNCTION(hineinsehen)
 
-} // namespace
-
 class TestStart : public QObject {
     Q_OBJECT
 
   private Q_SLOTS:
     /// The name ties the window to its menu entry where the display goes by names.
     void start() {
-        std::array<char, 2> name{"w"};
+        QByteArray name("w");
         std::array<char*, 2> argumente{name.data(), nullptr};
         QCOMPARE(programmstart(1, argumente.data()), 0);
         QVERIFY2(g_gesehen.startsWith("wirbelwerk Wirbelwerk ("), qPrintable(g_gesehen));
