@@ -270,7 +270,7 @@ class TestFenster : public QObject {
                 QGuiApplication::setOverrideCursor(Qt::BusyCursor); // somebody else's
                 Werfer flaeche;
                 QPainter maler(&flaeche);
-                QVERIFY_EXCEPTION_THROWN(ui->Menge->Berechnung(&maler), std::runtime_error);
+                QVERIFY_THROWS_EXCEPTION(std::runtime_error, ui->Menge->Berechnung(&maler));
                 QCOMPARE(QGuiApplication::overrideCursor()->shape(), Qt::BusyCursor);
                 QGuiApplication::restoreOverrideCursor();
             }
