@@ -70,6 +70,22 @@ anzeige_warten() {
     return 1
 }
 
+# anzeige_schliessen: closes the program's window with the keys for it and waits for the program,
+# which must end in time and with 0.
+anzeige_schliessen() {
+    local frist=$((SECONDS + 20))
+    # The window may be gone before the keys are released, which xdotool counts as a failure.
+    xdotool windowfocus --sync "$fenster_id" key --window "$fenster_id" ctrl+q 2>/dev/null || true
+    while ((SECONDS < frist)) && kill -0 "$programm_id" 2>/dev/null; do
+        sleep 0.2
+    done
+    if kill -0 "$programm_id" 2>/dev/null; then
+        echo "The program goes on without its window." >&2
+        return 1
+    fi
+    wait "$programm_id" || { echo "The program ended with $?." >&2; return 1; }
+}
+
 # anzeige_ende: ends the programs started here, the last one first.
 anzeige_ende() {
     local i

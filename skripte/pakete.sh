@@ -8,13 +8,14 @@ pakete_bau=(
     g++ cmake ninja-build
     qt6-base-dev libgl-dev
     fontconfig fonts-dejavu-core # without a font no caption can be measured
+    qt6-translations-l10n        # the tests hold Qt's own texts against the language
 )
 # To show the program where there is no display, and to photograph it.
-pakete_anzeige=(xvfb xauth xdotool imagemagick)
+pakete_anzeige=(xvfb xauth xdotool x11-utils imagemagick)
 # To check formatting, warnings, scripts, benchmarks and the package.
 pakete_ci=(
     clang clang-format clang-tidy shellcheck git libbenchmark-dev
-    dpkg-dev file desktop-file-utils appstream lintian
+    dpkg-dev file desktop-file-utils appstream lintian man-db librsvg2-bin
 )
 if [[ -n ${WAYLAND_DISPLAY:-} ]]; then
     pakete_bau+=(qt6-wayland)

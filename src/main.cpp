@@ -1,4 +1,5 @@
 #include "UI_Hauptfenster.h"
+#include "window/Sprache.h"
 
 #include <QIcon>
 
@@ -9,7 +10,7 @@ namespace {
 /// menu entry where the display system asks for it.
 void SymbolSetzen() {
     QIcon symbol;
-    for (const int kante : {16, 24, 32, 48, 64, 128, 256}) {
+    for (const int kante : {16, 22, 24, 32, 48, 64, 128, 256}) {
         symbol.addFile(QStringLiteral(":/icons/wirbelwerk-%1.png").arg(kante));
     }
     QApplication::setWindowIcon(symbol);
@@ -20,6 +21,7 @@ void SymbolSetzen() {
 /// Creates the application and one window and runs until the window is closed. Returns 0.
 int qMain(int argc, char** argv) {
     const auto app = std::make_unique<QApplication>(argc, argv);
+    qtTexteUebersetzen(*app);
     SymbolSetzen();
     const auto fenster = std::make_unique<UI>();
     fenster->show();

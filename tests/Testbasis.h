@@ -6,3 +6,14 @@
 
 #include <QSignalSpy>
 #include <QTest>
+
+#include <initializer_list>
+
+/// Language, scale, fonts and style of the machine reach no test.
+inline const bool g_Umgebung = [] {
+    for (const char* name : {"QT_SCALE_FACTOR", "QT_SCREEN_SCALE_FACTORS", "QT_FONT_DPI",
+                             "QT_STYLE_OVERRIDE", "QT_QPA_PLATFORMTHEME", "LANGUAGE"}) {
+        qunsetenv(name);
+    }
+    return qputenv("LC_ALL", "C.UTF-8");
+}();

@@ -1,6 +1,7 @@
 #include "files/Bilddaten.h"
 
 #include "files/Dateiausgabe.h"
+#include "files/Speicherdialog.h"
 
 #include <QDataStream>
 #include <QFile>
@@ -142,11 +143,12 @@ void bilddatenLesen(QIODevice& quelle, UI& fenster) {
 
 void UI::Koordinaten_SpeichernSlot() {
     dt = QDateTime::currentDateTime();
+    const QString endung = ".fraktal";
     const QString vorschlag =
-        "DatenWirbel" + Menge->g_Versionsnummer + dt.toString("-yyyyMMdd-hh-mm-ss") + ".fraktal";
+        "DatenWirbel" + Menge->g_Versionsnummer + dt.toString("-yyyyMMdd-hh-mm-ss") + endung;
     const QString name =
-        QFileDialog::getSaveFileName(this, tr("Bilddaten speichern"), vorschlag,
-                                     tr("DatenWirbel (*.fraktal);;Alle Dateien (*.*)"));
+        speichernameErfragen(this, tr("Bilddaten speichern"), vorschlag,
+                             tr("DatenWirbel (*.fraktal);;Alle Dateien (*.*)"), endung);
     if (!name.isEmpty() && !dateiSchreiben(name, bilddatenSchreiben(*this))) {
         speicherfehlerMelden(name);
     }

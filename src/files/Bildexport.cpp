@@ -1,14 +1,15 @@
 #include "files/Dateiausgabe.h"
+#include "files/Speicherdialog.h"
 #include "UI_Hauptfenster.h"
 
 #include <QBuffer>
-#include <QFileDialog>
 
 void UI::Bild_SpeichernSlot() {
     dt = QDateTime::currentDateTime();
-    const QString name = QFileDialog::getSaveFileName(
-        this, tr("Bild speichern"), "Fraktal" + dt.toString("yyMMdd-hh-mm-ss") + ".png",
-        tr("PNG-Bilder (*.png);;Alle Dateien (*.*)"));
+    const QString endung = ".png";
+    const QString name = speichernameErfragen(this, tr("Bild speichern"),
+                                              "Fraktal" + dt.toString("yyMMdd-hh-mm-ss") + endung,
+                                              tr("PNG-Bilder (*.png);;Alle Dateien (*.*)"), endung);
     if (name.isEmpty()) {
         return;
     }

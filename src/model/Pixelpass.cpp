@@ -4,6 +4,7 @@
 #include "equations/Zeilenkern.h"
 #include "model/Linien.h"
 #include "model/Orbit.h"
+#include "model/Wartezeiger.h"
 
 #include <algorithm>
 
@@ -120,9 +121,11 @@ class Pass {
 void pixelPass(Mandelbrot& menge, Bildlauf& lauf) {
     menge.Orbitmodus = menge.g_OrbitJa > 0 ? 1 : 0;
     Pass pass(menge, lauf);
+    Wartezeiger zeiger;
     double y = menge.I_Max;
     for (qint32 zeile = lauf.CyStart; zeile < lauf.Zeilen; ++zeile) {
         fortschrittMelden(menge, zeile);
+        zeiger.nachsehen();
         if (menge.g_oberesHalbbild == 1 && zeile >= lauf.ZeilenKLHalbe) {
             break;
         }

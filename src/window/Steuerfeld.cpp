@@ -1,11 +1,11 @@
 #include "window/Parameter.h"
+#include "window/Zahleneingabe.h"
 
 #include <QFontInfo>
 #include <QFontMetrics>
 #include <QFrame>
 #include <QGridLayout>
 #include <QHBoxLayout>
-#include <QLineEdit>
 
 #include <algorithm>
 #include <numeric>
@@ -156,20 +156,6 @@ QFont passendeSchrift(QFont schrift, int feldbreite) {
 
 // --- Building ----------------------------------------------------------------------------------
 
-/// Keeps the leading digits in view, of which a narrow box with 16 decimals shows but a few. Qt
-/// selects the whole number after a step or a tab and leaves the cursor, and thus the view, at its
-/// end.
-void anfangZeigen(QLineEdit* zeile) {
-    QObject::connect(zeile, &QLineEdit::selectionChanged, zeile, [zeile] {
-        const int laenge = static_cast<int>(zeile->text().size());
-        const bool gezogen = QApplication::mouseButtons() != Qt::NoButton && zeile->underMouse();
-        if (!gezogen && zeile->cursorPosition() != 0 && zeile->selectionLength() == laenge) {
-            zeile->setSelection(laenge, -laenge);
-        }
-    });
-    QObject::connect(zeile, &QLineEdit::editingFinished, zeile, [zeile] { zeile->home(false); });
-}
-
 /// Builds one cell, connects it and puts it into the grid.
 struct Zellenbauer {
     UI& ui;
@@ -200,7 +186,7 @@ struct Zellenbauer {
         if (breite < SchmaleSpalte) {
             box->setButtonSymbols(QAbstractSpinBox::NoButtons);
         }
-        anfangZeigen(box->findChild<QLineEdit*>());
+        zahleneingabeEinrichten(box);
         setzen(box);
     }
 

@@ -117,11 +117,22 @@ QByteArray bytesVon(const QString& name) {
     return quelle.open(QIODevice::ReadOnly) ? quelle.readAll() : QByteArray();
 }
 
+/// The name with a time of the last seconds in it; von is a moment before it was made.
+QString mitZeit(const QString& anfang, const QString& format, const QString& ende, QDateTime von,
+                const QString& name) {
+    QString soll;
+    for (; soll != name && von <= QDateTime::currentDateTime(); von = von.addSecs(1)) {
+        soll = anfang + von.toString(format) + ende;
+    }
+    return soll;
+}
+
 /// Answers every modal dialog that opens while it lives, and notes what it showed. File dialogs get
-/// the name, an empty one cancels; danach runs between their acceptance and their return.
+/// the name and one of their filters, an empty name cancels; a question before replacing gets a
+/// yes. danach runs between their acceptance and their return.
 struct Dialogfuehrer {
     explicit Dialogfuehrer(
-        const QString& name, const std::function<void()>& danach = [] {}) {
+        const QString& name, const std::function<void()>& danach = [] {}, int filter = 0) {
         QObject::connect(&uhr, &QTimer::timeout, &uhr, [=, this] {
             QWidget* const modal = QApplication::activeModalWidget();
             if (auto* box = qobject_cast<QMessageBox*>(modal)) {
@@ -133,7 +144,14 @@ struct Dialogfuehrer {
                 gezeigt << dialog->windowTitle() << zeile->text() << dialog->nameFilters()
                         << (dialog->acceptMode() == QFileDialog::AcceptSave ? "save" : "open");
                 eltern << dialog->parentWidget();
-                dialog->setOption(QFileDialog::DontConfirmOverwrite);
+                dialog->selectNameFilter(dialog->nameFilters().at(filter));
+                QTimer::singleShot(0, dialog, [this] {
+                    auto* frage = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+                    if (frage != nullptr) {
+                        gezeigt << frage->text();
+                        frage->button(QMessageBox::Yes)->click();
+                    }
+                });
                 QObject::connect(dialog, &QDialog::accepted, dialog, danach);
                 zeile->setText(name);
                 static_cast<QDialog*>(dialog)->accept();
@@ -145,7 +163,8 @@ struct Dialogfuehrer {
         uhr.start(1);
     }
 
-    QStringList gezeigt; ///< title, suggested name, filters, save or open; of a box title, text
+    /// Title, suggested name, filters, save or open, question; of a box title, text.
+    QStringList gezeigt;
     QList<QWidget*> eltern;
     QTimer uhr;
 };
@@ -215,33 +234,71 @@ class TestDateien : public QObject {
         werte[8] = 0;
         werte[19] = 12; // a preview, left as it is by a request with orbit
         lesen(fenster, datei(werte));
+        const QDateTime von = QDateTime::currentDateTime();
         Dialogfuehrer fuehrer(name);
         fenster.Koordinaten_SpeichernSlot();
         QCOMPARE(bytesVon(name), datei(werte).left(200));
+        QCOMPARE(fuehrer.gezeigt[1], mitZeit("DatenWirbel1.5", "-yyyyMMdd-hh-mm-ss", ".fraktal",
+                                             von, fuehrer.gezeigt[1]));
 
         lesen(fenster, datei(Inhalt(Alle, 1)));
         fenster.Koordinaten_LadenSlot();
         QCOMPARE(fuehrer.gezeigt,
-                 QStringList({"Bilddaten speichern",
-                              "DatenWirbel" + fenster.Menge->g_Versionsnummer +
-                                  fenster.dt.toString("-yyyyMMdd-hh-mm-ss") + ".fraktal",
-                              "DatenWirbel (*.fraktal)", "Alle Dateien (*.*)", "save",
-                              "Bilddaten laden", "Bilddaten.fraktal", "Bilddaten (*.fraktal)",
-                              "Alle Dateien (*.*)", "open"}));
+                 QStringList({"Bilddaten speichern", fuehrer.gezeigt[1], "DatenWirbel (*.fraktal)",
+                              "Alle Dateien (*.*)", "save", "Bilddaten laden", "Bilddaten.fraktal",
+                              "Bilddaten (*.fraktal)", "Alle Dateien (*.*)", "open"}));
         // The values reach the model through the panel, as with "Start!".
         QCOMPARE(fenster.Menge->wahl_Gleichung, 101);
         QCOMPARE(fenster.Menge->g_halbesBild, 12);
         QCOMPARE(fenster.Menge->MP_x, werte[Ganze]);
     }
 
+    // An ending is added where none is, in the dialog: the question is about the final name.
+    void endungen_data() {
+        QTest::addColumn<QString>("png");
+        QTest::addColumn<QString>("fraktal");
+        QTest::newRow("a") << "a.png"
+                           << "a.fraktal";
+        QTest::newRow("a.b") << "a.b"
+                             << "a.b";
+        QTest::newRow("DatenWirbel1.5-2026") << "DatenWirbel1.5-2026.png"
+                                             << "DatenWirbel1.5-2026.fraktal";
+        QTest::newRow("x.jpg") << "x.jpg"
+                               << "x.jpg";
+        QTest::newRow("v1.5") << "v1.5.png"
+                              << "v1.5.fraktal";
+        QTest::newRow("größe.ö2345678") << "größe.ö2345678"
+                                        << "größe.ö2345678";
+        QTest::newRow("x.abcdefghi") << "x.abcdefghi.png"
+                                     << "x.abcdefghi.fraktal";
+    }
+    void endungen() {
+        QFETCH(QString, png);
+        QFETCH(QString, fraktal);
+        for (const int filter : {0, 1}) {
+            for (const auto& [soll, slot] : {std::pair(png, &UI::Bild_SpeichernSlot),
+                                             std::pair(fraktal, &UI::Koordinaten_SpeichernSlot)}) {
+                ordner = std::make_unique<QTemporaryDir>();
+                QVERIFY(dateiSchreiben(pfad(soll), "alt"));
+                const Dialogfuehrer fuehrer(
+                    pfad(QTest::currentDataTag()), [] {}, filter);
+                (fenster.*slot)();
+                QCOMPARE(fuehrer.gezeigt.size(), 6);
+                QVERIFY(fuehrer.gezeigt[5].startsWith(soll + " already exists"));
+                QCOMPARE(dateien(), QStringList(soll));
+                QVERIFY(bytesVon(pfad(soll)) != "alt");
+            }
+        }
+    }
+
     void fehler_data() {
         QTest::addColumn<bool>("laden");
         QTest::addColumn<QString>("name");
         QTest::addColumn<bool>("wirdOrdner"); // while the dialog is open
-        QTest::newRow("load: gone") << true << "bild" << false;
-        QTest::newRow("load: becomes a folder") << true << "bild" << true;
-        QTest::newRow("save: no such folder") << false << "fehlt/bild" << false;
-        QTest::newRow("save: becomes a folder") << false << "bild" << true;
+        QTest::newRow("load: gone") << true << "bild.x" << false;
+        QTest::newRow("load: becomes a folder") << true << "bild.x" << true;
+        QTest::newRow("save: no such folder") << false << "fehlt/bild.x" << false;
+        QTest::newRow("save: becomes a folder") << false << "bild.x" << true;
     }
     void fehler() {
         QFETCH(bool, laden);
@@ -287,12 +344,14 @@ class TestDateien : public QObject {
         fenster.show();
         QVERIFY(QTest::qWaitForWindowExposed(&fenster));
         const QString name = pfad("bild.png");
+        const QDateTime von = QDateTime::currentDateTime();
         Dialogfuehrer fuehrer(name);
         fenster.Bild_SpeichernSlot();
+        QCOMPARE(fuehrer.gezeigt[1],
+                 mitZeit("Fraktal", "yyMMdd-hh-mm-ss", ".png", von, fuehrer.gezeigt[1]));
         QCOMPARE(fuehrer.gezeigt,
-                 QStringList({"Bild speichern",
-                              "Fraktal" + fenster.dt.toString("yyMMdd-hh-mm-ss") + ".png",
-                              "PNG-Bilder (*.png)", "Alle Dateien (*.*)", "save"}));
+                 QStringList({"Bild speichern", fuehrer.gezeigt[1], "PNG-Bilder (*.png)",
+                              "Alle Dateien (*.*)", "save"}));
         QVERIFY(bytesVon(name).startsWith("\x89PNG"));
         const QImage bild = fenster.Menge->grab().toImage().convertToFormat(QImage::Format_RGB32);
         QCOMPARE(QImage(name).convertToFormat(QImage::Format_RGB32), bild);
@@ -344,15 +403,18 @@ class TestDateien : public QObject {
     void orbitliste() {
         QVERIFY(QDir::setCurrent(ordner->path()));
         fenster.Menge->g_OrbitListeHTMStr = "<html>größer</html>";
-        QDateTime zuvor;
+        QDateTime von;
         do { // twice within one second: appended
+            for (const QString& alt : dateien()) {
+                QFile::remove(alt);
+            }
+            von = QDateTime::currentDateTime();
             fenster.OrbitListeHTM_SpeichernSlot();
-            zuvor = fenster.dt;
             fenster.OrbitListeHTM_SpeichernSlot();
-        } while (zuvor.toSecsSinceEpoch() != fenster.dt.toSecsSinceEpoch());
-        QCOMPARE(bytesVon("OrbitWirbel" + fenster.Menge->g_Versionsnummer +
-                          fenster.dt.toString("-yyyyMMdd-hh-mm-ss") + ".htm"),
-                 QByteArray("<html>größer</html><html>größer</html>"));
+        } while (dateien().size() > 1);
+        const QString name = dateien().value(0);
+        QCOMPARE(name, mitZeit("OrbitWirbel1.5", "-yyyyMMdd-hh-mm-ss", ".htm", von, name));
+        QCOMPARE(bytesVon(name), QByteArray("<html>größer</html><html>größer</html>"));
         ordner->remove(); // the working directory is gone, nothing can be made in it
         const Dialogfuehrer fuehrer("");
         fenster.OrbitListeHTM_SpeichernSlot();

@@ -1,11 +1,17 @@
 #include "Texttabelle.h"
 #include "UI_Hauptfenster.h"
+#include "window/Sprache.h"
 
+#include <QDialogButtonBox>
 #include <QGridLayout>
+#include <QHelpEvent>
 #include <QLineEdit>
+#include <QPaintEngine>
 #include <QPointer>
 #include <QRegularExpression>
 #include <QTextDocument>
+#include <QToolTip>
+#include <QTranslator>
 
 // What the user sees: that every command is at hand, what the panel does, sizes, readable captions.
 
@@ -35,6 +41,40 @@ QList<QRect> lagen(const UI& ui) {
         rechtecke << QRect(teil->mapTo(&ui, QPoint(0, 0)), teil->size());
     }
     return rechtecke;
+}
+
+/// Captions in the row of a box, as the user sees them.
+QString aufschriften(const UI& ui, const QWidget* box) {
+    QString text;
+    for (const QWidget* teil : zellen(ui)) {
+        if (teil->parent() == box->parent() &&
+            std::abs(teil->geometry().center().y() - box->geometry().center().y()) < 4) {
+            text += teil->property("text").toString() + '|';
+        }
+    }
+    return text;
+}
+
+/// A surface that fails as soon as the picture is drawn on it.
+struct Werfer : QPaintEngine, QPaintDevice {
+    Werfer() : QPaintEngine(AllFeatures) {}
+    bool begin(QPaintDevice* /*flaeche*/) override { return true; }
+    bool end() override { return true; }
+    void updateState(const QPaintEngineState& /*stand*/) override {}
+    void drawPixmap(const QRectF& /*ziel*/, const QPixmap& /*bild*/, const QRectF& /*q*/) override {
+    }
+    void drawImage(const QRectF& /*ziel*/, const QImage& /*bild*/, const QRectF& /*quelle*/,
+                   Qt::ImageConversionFlags /*art*/) override {
+        throw std::runtime_error("painter");
+    }
+    Type type() const override { return User; }
+    QPaintEngine* paintEngine() const override { return const_cast<Werfer*>(this); }
+    int metric(PaintDeviceMetric /*mass*/) const override { return 100; }
+};
+
+bool wartend() {
+    const QCursor* zeiger = QGuiApplication::overrideCursor();
+    return zeiger != nullptr && zeiger->shape() == Qt::WaitCursor;
 }
 
 } // namespace
@@ -124,6 +164,124 @@ class TestFenster : public QObject {
         QCOMPARE(ui->UI_itFactor->value(), 1.12346);
     }
 
+    void kaesten() {
+        const auto boxen = ui->findChildren<QAbstractSpinBox*>();
+        QCOMPARE(boxen.size(), 20);
+        for (QAbstractSpinBox* box : boxen) {
+            const double vorher = box->property("value").toDouble();
+            QVERIFY(box->isEnabled() && !box->isReadOnly());
+            QTest::keyClick(box, Qt::Key_Up);
+            QVERIFY(box->property("value").toDouble() > vorher);
+        }
+    }
+
+    void zahlen_data() { zeilenAus("window/zahlen.txt"); }
+    void zahlen() {
+        QFETCH(QStringList, spalten);
+        for (const auto sprache : {QLocale::German, QLocale::English}) {
+            QLocale::setDefault(sprache);
+            const UI fenster;
+            const std::map<QString, QAbstractSpinBox*> boxen{
+                {"UI_MPx", fenster.UI_MPx},
+                {"UI_Brx", fenster.UI_Brx},
+                {"UI_itFactor", fenster.UI_itFactor},
+                {"UI_Iterationen", fenster.UI_Iterationen}};
+            QAbstractSpinBox* box = boxen.at(spalten[0]);
+            auto* zeile = box->findChild<QLineEdit*>();
+            box->setProperty("value", 7);
+            zeile->selectAll();
+            if (spalten[1] == "typed") {
+                QTest::keyClicks(box, spalten[2]);
+            } else {
+                zeile->insert(spalten[2]);
+            }
+            const double wert = spalten[3].toDouble();
+            const double sofort = box->property("value").toDouble();
+            QVERIFY(std::abs(sofort - wert) < std::pow(10, -box->property("decimals").toInt()));
+            QTest::keyClick(box, Qt::Key_Return);
+            QCOMPARE(box->property("value").toDouble(), wert);
+            QCOMPARE(box->text(), spalten[4]);
+        }
+        QLocale::setDefault(QLocale::c());
+    }
+
+    /// A long number looks like one of its beginnings: no digit is cut. The tool tip has it whole.
+    void ganzeZiffern() {
+        ui->show();
+        for (const double wert : {0.1234567890123456, -0.5, 1.0 / 3, 4e-6, 1e30}) {
+            ui->UI_MPx->setValue(wert);
+            auto* zeile = ui->UI_MPx->findChild<QLineEdit*>();
+            const QString text = zeile->text();
+            zeile->home(false);
+            const QImage lang = zeile->grab().toImage();
+            int gleiche = 0;
+            const QFontMetrics schrift(zeile->font());
+            for (int n = 1; schrift.horizontalAdvance(text, n) <= zeile->width() - 2; ++n) {
+                zeile->setText(text.left(n));
+                zeile->home(false);
+                gleiche += zeile->grab().toImage() == lang;
+            }
+            QCOMPARE(gleiche, 1);
+            ui->UI_MPx->setValue(wert);
+            QHelpEvent frage(QEvent::ToolTip, {}, zeile->mapToGlobal(QPoint(5, 5)));
+            QCoreApplication::sendEvent(zeile, &frage);
+            QCOMPARE(QToolTip::text().toDouble(), ui->UI_MPx->value());
+            QVERIFY(QToolTip::text().size() <= 19);
+        }
+    }
+
+    /// Qt's texts follow the language; the "OK" of boxes and the direction do not.
+    void qtTexte_data() {
+        QTest::addColumn<QString>("speichern");
+        QTest::newRow("de_DE") << "Speichern";
+        QTest::newRow("es_ES") << "Guardar";
+        QTest::newRow("ar_EG") << "احفظ";
+        QTest::newRow("xx") << "Save";
+    }
+    void qtTexte() {
+        qtTexteUebersetzen(*qApp, QLocale(QTest::currentDataTag()));
+        const QDialogButtonBox tasten(QDialogButtonBox::Ok | QDialogButtonBox::Save);
+        QFETCH(QString, speichern);
+        QCOMPARE(tasten.button(QDialogButtonBox::Save)->text().remove('&'), speichern);
+        QCOMPARE(tasten.button(QDialogButtonBox::Ok)->text().remove('&'), "OK");
+        QCOMPARE(QGuiApplication::layoutDirection(), Qt::LeftToRight);
+        qDeleteAll(qApp->findChildren<QTranslator*>());
+    }
+
+    /// The wait cursor comes during a long picture only, and goes with it in every case.
+    void wartezeiger() {
+        static QList<bool> gesehen; // at every progress line
+        static int pause = 0;
+        ui->show();
+        ui->Menge->grab();
+        for (const int ms : {0, 300}) {
+            pause = ms;
+            gesehen.clear();
+            ui->Menge->Max_Iterationen = 1 + ms;
+            ui->Menge->g_RechnenJa = 1;
+            const auto bisher = qInstallMessageHandler(
+                [](QtMsgType /*art*/, const QMessageLogContext& /*ort*/, const QString& /*text*/) {
+                    gesehen << wartend();
+                    QTest::qSleep(pause);
+                });
+            if (ms == 0) {
+                ui->Menge->grab();
+            } else {
+                QGuiApplication::setOverrideCursor(Qt::BusyCursor); // somebody else's
+                Werfer flaeche;
+                QPainter maler(&flaeche);
+                QVERIFY_THROWS_EXCEPTION(std::runtime_error, ui->Menge->Berechnung(&maler));
+                QCOMPARE(QGuiApplication::overrideCursor()->shape(), Qt::BusyCursor);
+                QGuiApplication::restoreOverrideCursor();
+            }
+            qInstallMessageHandler(bisher);
+            QVERIFY(gesehen.size() > 3 && !gesehen.takeFirst());
+            QCOMPARE(gesehen, QList<bool>(gesehen.size(), ms > 0));
+            QCOMPARE(QGuiApplication::overrideCursor(), nullptr);
+        }
+        QCOMPARE(ui->Menge->cursor().shape(), Qt::CrossCursor);
+    }
+
     void groessen_data() { zeilenAus("window/groessen.txt"); }
     void groessen() {
         QFETCH(QStringList, spalten);
@@ -150,6 +308,12 @@ class TestFenster : public QObject {
                 QVERIFY2(!vorher[i].intersects(vorher[j]), qPrintable(QString::number(i)));
             }
         }
+        QVERIFY(aufschriften(*ui, ui->UI_MPx).count('X') == 2 &&
+                aufschriften(*ui, ui->UI_MPy).count('Y') == 2 &&
+                aufschriften(*ui, ui->UI_CJx).contains("X|") &&
+                aufschriften(*ui, ui->UI_CJy).contains("Y|"));
+        QCOMPARE(ui->UI_Start->grab().toImage().pixelColor(5, 9).hue(), QColor("green").hue());
+        QCOMPARE(ui->UI_Vorschau->grab().toImage().pixelColor(5, 9).hue(), QColor("blue").hue());
         // The widest texts of the commands move nothing.
         ui->infoLabel11->setText("<b>Zwilling Aus</b>");
         ui->infoLabel22->setText("<b>Maus-Orbit</b>");
@@ -159,7 +323,9 @@ class TestFenster : public QObject {
         ui->infoLabelPalette->setText("<b>Palette 4</b>");
         QTest::qWait(0);
         QCOMPARE(lagen(*ui), vorher);
+        QString hinweise; // in the order of the rows
         for (const QWidget* teil : zellen(*ui)) {
+            hinweise += teil->property("text").toString().section("<b>", 1).section(' ', 0, 0);
             const auto* label = qobject_cast<const QLabel*>(teil);
             const bool box = qobject_cast<const QAbstractSpinBox*>(teil) != nullptr;
             const QString text = box ? QString() : teil->property("text").toString();
@@ -171,7 +337,11 @@ class TestFenster : public QObject {
             QVERIFY(teil->height() >= QFontMetrics(teil->font()).height() || text.isNull());
             QVERIFY2(fenster.width() < 985 || inhalt.idealWidth() <= teil->width(),
                      qPrintable(text));
+            QVERIFY2(qobject_cast<const QPushButton*>(teil) == nullptr ||
+                         inhalt.idealWidth() <= teil->width() || teil->toolTip() == text,
+                     qPrintable(text));
         }
+        QCOMPARE(hinweise, "Palette256abIter=Zoom</b>ZwillingMaus-Orbit</b>Mittelpunkt</b>");
     }
 
     /// A narrow box shows the first digits also after a step, a tab and an input.
