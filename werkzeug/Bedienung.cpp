@@ -37,7 +37,7 @@ Eintraege alleEintraege(const UI& fenster) {
     return liste;
 }
 
-/// The text without its last path element's menus.
+/// True when the way ends as the path says; menus before it may be left out.
 bool endetAuf(const QString& weg, const QString& pfad) {
     return passtAuf(weg, pfad) || passtAuf(weg, "…" + QString(Pfeil) + pfad);
 }

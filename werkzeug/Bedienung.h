@@ -4,8 +4,6 @@
 
 #include <QTimer>
 
-#include <functional>
-
 /// Uses the live window as a person does: menus and buttons by their captions, keys, clicks, and
 /// the dialogs that open. What cannot be done is thrown as a Hindernis.
 class Bedienung : public QObject {
