@@ -59,7 +59,8 @@ bool passtAuf(const QString& text, const QString& muster) {
 }
 
 Bedienung::Bedienung(UI& ui) : fenster(ui) {
-    connect(&uhr, &QTimer::timeout, this, &Bedienung::dialogBeantworten);
+    // Queued, since a timer rests while its own slot runs, and an answer may open the next dialog.
+    connect(&uhr, &QTimer::timeout, this, &Bedienung::dialogBeantworten, Qt::QueuedConnection);
     uhr.start(1);
 }
 
@@ -77,11 +78,10 @@ void Bedienung::dialogBeantworten() {
         geschlossen << meldung->windowTitle();
         meldung->accept();
     } else if (auto* dialog = qobject_cast<QFileDialog*>(modal)) {
-        if (dateiname.isEmpty()) {
+        dialog->findChild<QLineEdit*>("fileNameEdit")->setText(dateiname);
+        static_cast<QDialog*>(dialog)->accept();
+        if (dialog->isVisible()) { // without a name, or it was refused
             dialog->reject();
-        } else {
-            dialog->findChild<QLineEdit*>("fileNameEdit")->setText(dateiname);
-            static_cast<QDialog*>(dialog)->accept();
         }
     }
 }
