@@ -30,9 +30,11 @@ der Gleichung*, then *Groesse/Size → Aktives zum vollem Bild/FullPicture*.
 
 In all formulas `Z` is the value that is fed back, `ZS` its conjugate, `Zq` is `Z*Z`, `Zm` is
 `Z*ZS`, `C` (or `A`, the constant with the twin's share) the constant, `K` the power from the end of
-the equation menu (10 at the start). Odd numbers begin with 0 and take the pixel as `C`; even numbers
-begin at the pixel and take *C-Julia X* and *C-Julia Y* as `C`, -1 + 0i at most starts. Left is the
-equation, right its Julia equation; the Newton equations stand alone.
+the equation menu (10 at the start). Odd numbers begin with 0 and take the pixel as `C`, but for
+Newton's method, 9 and 109 to 909, which begins at the pixel. Even numbers begin at the pixel and take
+*C-Julia X* and *C-Julia Y* as `C`, -1 + 0i at most starts. Left is the equation, right its Julia
+equation; the Newton equations stand alone. The names are fixed; where a name or a menu entry says
+something else than what is computed, a remark says so.
 
 Settings named on this page are typed into the panel, then **Start!** is pressed; the center is
 *Mittelpkt. X* with *Mittelpkt. Y* 0, the width the field below. *Potenzzahl K=7* is
@@ -73,16 +75,24 @@ inline constexpr auto Familien = std::to_array<Familie>({
 });
 
 inline constexpr auto Bemerkungen = std::to_array<Bemerkung>({
-    {7, "the start picture is the far field. The spider sits at the origin: center 0, width 8."},
+    {7, "computes `ZS^Z`, the conjugate of the `Z^ZS` in the name. The start picture is the far "
+        "field; "
+        "the spider sits at the origin: center 0, width 8."},
+    {8, "computes `ZS^Z - 1`, the conjugate of the power in the name. C is always -1, whatever is "
+        "typed."},
+    {10, "the menu says \"derzeit nicht intakt\", not working at present; it works."},
+    {108, "adds C, not always -1 as the name says; C is -1 at the start."},
     {112, "at C = -1 little happens; try C-Julia 0.2, 0.9."},
     {206, "at C = -1 most points settle after a few steps; try Mittelpkt. X and Y 0, width 4, "
           "Fakt.Iter. 20."},
     {208, "almost all points settle or run away at once; try C-Julia X 0.3, center 2, width 8."},
-    {212, "as 112."},
+    {211, "the menu says `ZS*Z*ZS`; computed is `Z*Zm`, that is `Z*Z*ZS`, as in the title."},
+    {212, "as 211 and 112."},
     {406, "as 206: center 0, width 4, Fakt.Iter. 20."},
     {407, "the detail is near the origin: center -0.5, width 0.5."},
     {408, "the detail is farther out: center 5, width 16."},
-    {506, "as 206: center 0, width 3, Fakt.Iter. 20."},
+    {505, "computes `Z^K`, not `Zq^K`."},
+    {506, "`Z^K` as 505. Flat as 206: center 0, width 3, Fakt.Iter. 20."},
     {507, "the spots lie to the left: center -4, width 8."},
     {508, "at C = -1 nearly flat; try C-Julia -2.2, 0.1."},
     {512, "at C = -1 flat; try C-Julia 0.2, 0.9."},
@@ -100,9 +110,10 @@ inline constexpr auto Bemerkungen = std::to_array<Bemerkung>({
     {704, "as 703: Potenzzahl K=7."},
     {711, "for odd K only; at the start its formula is that of 811. Try Potenzzahl K=7."},
     {712, "for odd K only; at the start its formula is that of 812. Try Potenzzahl K=7."},
+    {809, "divides by `K*(Z*ZS)^(K/2-1) *P`, not by `3*Z^2 *P`."},
     {811, "flat by its formula: Z stays on the ray through C and tends to the distance 1 from the "
           "origin, whatever C is. NrAbbr 4 shows how fast."},
     {812, "at C = -1 every point gets the distance 1 in the first step and keeps it; try C-Julia "
           "0.3, 0.6."},
-    {909, "for odd K; try Potenzzahl K=7."},
+    {909, "divides by `K*ZS*(Z*ZS)^(K/2-1) *P`, not by `3*Z^2 *P`. For odd K; try Potenzzahl K=7."},
 });

@@ -1,358 +1,288 @@
-// Takes the screenshots of the documentation from the live window, in the steps that the guide
-// tells:
+// Replays pages of the documentation in the live window: what their steps say is done, and what
+// they say shows must show. How steps are written stands in Schrittfolge.h.
 //
-//     wirbelwerk_fenster FOLDER [SCENE]...      writes the pictures of all scenes, or of some
+//     wirbelwerk_fenster check PAGE...             pages with steps must have the same ones; on all
+//                                                  pages italics must be captions of the window
+//                                                  and pictures must be there
+//     wirbelwerk_fenster pictures FOLDER PAGE...   writes the pictures of the steps into FOLDER
 //
-// Needs a display, so that the window looks as a user sees it; docs/bilder.sh provides one.
+// Pictures need a display, so that the window looks as a user sees it; docs/bilder.sh provides one.
 
+#include "Bedienung.h"
 #include "Runden.h"
-#include "UI_Hauptfenster.h"
+#include "Schrittfolge.h"
 
 #include <QDir>
-#include <QMouseEvent>
+#include <QFile>
+#include <QRegularExpression>
 #include <QScreen>
-#include <QThread>
+#include <QTemporaryDir>
 
 #include <algorithm>
 #include <cstdio>
-#include <span>
+#include <optional>
 
 namespace {
 
-constexpr int Ruhezeit = 300;           ///< ms that the display gets to show the last paint
 constexpr int Galeriebreite = 400;      ///< of a gallery picture, pixels
 constexpr double Galerieform = 4.0 / 3; ///< its width over its height
 
-/// One step of a scene: what the user does, or a picture that is taken. Fails when the window has
-/// no such caption.
-struct Schritt {
-    bool (*tun)(UI& fenster, const QDir& ordner, const Schritt& schritt);
-    const char* text = ""; ///< caption or, of a picture, name
-    double x = 0.0, y = 0.0;
-    const char* name = ""; ///< of the picture of an open menu
+using Hindernis = Bedienung::Hindernis;
+
+struct Seite {
+    QString name;
+    QList<Absatz> absaetze;
+
+    /// What is replayed; nothing on a page that has pictures only.
+    [[nodiscard]] QList<Absatz> schritte() const {
+        QList<Absatz> liste;
+        if (std::ranges::any_of(absaetze, &Absatz::schritt)) {
+            std::ranges::copy_if(absaetze, std::back_inserter(liste), &Absatz::istSpielbar);
+        }
+        return liste;
+    }
 };
 
-struct Szene {
-    const char* name;
-    std::span<const Schritt> schritte;
-};
-
-/// Lets the window paint what is due.
-void malen() {
-    for (int i = 0; i < 3; ++i) {
-        QCoreApplication::processEvents();
-        QThread::msleep(Ruhezeit / 3);
-    }
-}
-
-// --- What the user does ------------------------------------------------------------------------
-
-/// The entry with that caption anywhere below the actions.
-QAction* eintrag(const QList<QAction*>& aktionen, const QString& text) {
-    for (QAction* aktion : aktionen) {
-        if (aktion->text() == text) {
-            return aktion;
-        }
-        QAction* unten =
-            aktion->menu() != nullptr ? eintrag(aktion->menu()->actions(), text) : nullptr;
-        if (unten != nullptr) {
-            return unten;
-        }
-    }
-    return nullptr;
-}
-
-/// Chooses a menu entry by its caption.
-constexpr Schritt menue(const char* text) {
-    return {[](UI& fenster, const QDir& /*ordner*/, const Schritt& s) {
-                QAction* aktion = eintrag(fenster.Menuleiste->actions(), s.text);
-                if (aktion != nullptr) {
-                    aktion->trigger();
-                }
-                return aktion != nullptr;
-            },
-            text};
-}
-
-/// Presses a button of the panel by its caption.
-constexpr Schritt knopf(const char* text) {
-    return {[](UI& fenster, const QDir& /*ordner*/, const Schritt& s) {
-                for (auto* taste : fenster.findChildren<QPushButton*>()) {
-                    if (taste->text() == s.text) {
-                        taste->click();
-                        return true;
-                    }
-                }
-                return false;
-            },
-            text};
-}
-
-/// Types a number into a box of the panel.
-template <auto feld>
-constexpr Schritt wert(double zahl) {
-    return {[](UI& fenster, const QDir& /*ordner*/, const Schritt& s) {
-                auto* box = fenster.*feld;
-                if constexpr (std::is_integral_v<decltype(box->value())>) {
-                    box->setValue(trunc32(s.x));
-                } else {
-                    box->setValue(s.x);
-                }
-                return true;
-            },
-            "", zahl};
-}
-
-void mausklick(UI& fenster, double spalte, double zeile) {
-    const QPointF stelle(std::round(spalte), std::round(zeile));
-    QMouseEvent klick(QEvent::MouseButtonPress, stelle, fenster.Menge->mapToGlobal(stelle),
-                      Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(fenster.Menge, &klick);
-}
-
-/// Clicks on a point of the plane; in the full picture.
-constexpr Schritt klick(double x, double y) {
-    return {[](UI& fenster, const QDir& /*ordner*/, const Schritt& s) {
-                const Mandelbrot& m = *fenster.Menge;
-                const double jePixel =
-                    (m.R_Max - m.R_Min) / (m.width() - Mandelbrot::Streifenbreite);
-                mausklick(fenster, (s.x - m.R_Min) / jePixel, (m.I_Max - s.y) / jePixel);
-                return m.g_halbesBild == 0;
-            },
-            "", x, y};
-}
-
-/// Clicks on a cell of the matrix view, column and row from 1 to 4.
-constexpr Schritt zelle(int spalte, int zeile) {
-    return {[](UI& fenster, const QDir& /*ordner*/, const Schritt& s) {
-                const Mandelbrot& m = *fenster.Menge;
-                mausklick(fenster, (s.x - 0.5) / 4 * (m.width() - Mandelbrot::Streifenbreite),
-                          (s.y - 0.5) / 4 * m.height());
-                return true;
-            },
-            "", double(spalte), double(zeile)};
+void melden(const Seite& seite, int zeile, const QString& text) {
+    std::fprintf(stderr, "%s:%d: %s\n", qPrintable(seite.name), zeile, qPrintable(text));
 }
 
 // --- Pictures ----------------------------------------------------------------------------------
 
-bool sichern(const QImage& bild, const QDir& ordner, const char* name) {
-    return bild.save(ordner.filePath(QStringLiteral("%1.png").arg(name)));
-}
-
 /// The whole window as the display shows it, an open menu included.
-bool fensterfoto(UI& fenster, const QDir& ordner, const char* name) {
+QImage fensterfoto(const UI& fenster) {
     const QRect lage = fenster.geometry();
-    const QPixmap foto =
-        fenster.screen()->grabWindow(0, lage.x(), lage.y(), lage.width(), lage.height());
-    return sichern(foto.toImage(), ordner, name);
-}
-
-constexpr Schritt foto(const char* name) {
-    return {[](UI& fenster, const QDir& ordner, const Schritt& s) {
-                return fensterfoto(fenster, ordner, s.text);
-            },
-            name};
-}
-
-/// The window with an open menu of the bar.
-constexpr Schritt offen(const char* titel, const char* name) {
-    return {[](UI& fenster, const QDir& ordner, const Schritt& s) {
-                QAction* aktion = eintrag(fenster.Menuleiste->actions(), s.text);
-                if (aktion == nullptr) {
-                    return false;
-                }
-                const QRect feld = fenster.Menuleiste->actionGeometry(aktion);
-                aktion->menu()->popup(fenster.Menuleiste->mapToGlobal(feld.bottomLeft()));
-                malen();
-                const bool gut = fensterfoto(fenster, ordner, s.name);
-                aktion->menu()->close();
-                return gut;
-            },
-            titel, 0.0, 0.0, name};
+    return fenster.screen()
+        ->grabWindow(0, lage.x(), lage.y(), lage.width(), lage.height())
+        .toImage();
 }
 
 /// The middle of the picture without the palette strip, scaled down for the gallery.
-constexpr Schritt galerie(const char* name) {
-    return {[](UI& fenster, const QDir& ordner, const Schritt& s) {
-                QImage bild = fenster.Menge->grab().toImage();
-                const int breite = bild.width() - Mandelbrot::Streifenbreite;
-                const int hoehe = trunc32(breite / Galerieform);
-                bild = bild.copy(0, (bild.height() - hoehe) / 2, breite, hoehe);
-                return sichern(bild.scaledToWidth(Galeriebreite, Qt::SmoothTransformation), ordner,
-                               s.text);
-            },
-            name};
+QImage galeriebild(const UI& fenster) {
+    const QImage bild = fenster.Menge->grab().toImage();
+    const int breite = bild.width() - Mandelbrot::Streifenbreite;
+    const int hoehe = trunc32(breite / Galerieform);
+    return bild.copy(0, (bild.height() - hoehe) / 2, breite, hoehe)
+        .scaledToWidth(Galeriebreite, Qt::SmoothTransformation);
 }
 
-// --- Scenes ------------------------------------------------------------------------------------
+/// Takes the pictures; without a folder none.
+struct Bilder {
+    std::optional<QDir> ordner;
 
-constexpr Schritt Vollbild = menue("Aktives zum vollem Bild/FullPicture");
-constexpr Schritt Gross = menue("reset Gesamtwindow 1520x1210");
-constexpr Schritt Reset = menue("Reset zum Startbild der Gleichung");
-constexpr Schritt Start = knopf("Start!");
+    void operator()(const UI& fenster, const QString& datei) const {
+        if (!ordner) {
+            return;
+        }
+        Bedienung::warten(true);
+        const QString ziel = ordner->filePath(QFileInfo(datei).fileName());
+        const bool galerie = datei.contains("galerie");
+        if (!(galerie ? galeriebild(fenster) : fensterfoto(fenster)).save(ziel)) {
+            throw Hindernis{"cannot write " + ziel};
+        }
+    }
+};
 
-// The window as it stands at the top of the README.
-constexpr auto Fenster = std::to_array<Schritt>({
-    Vollbild,
-    wert<&UI::UI_MPx>(-0.7453),
-    wert<&UI::UI_MPy>(0.1127),
-    wert<&UI::UI_Brx>(0.0065),
-    wert<&UI::UI_Iterationen>(2000),
-    wert<&UI::UI_zahlfarbtab>(36),
-    wert<&UI::UI_rechenVarianteDiv>(3),
-    wert<&UI::UI_rechenVarianteKonv>(0),
-    Start,
-    foto("fenster"),
-});
+// --- One step ----------------------------------------------------------------------------------
 
-// The guide's first tour, in its order.
-constexpr auto Rundgang = std::to_array<Schritt>({
-    foto("tour-start"),
-    Vollbild,
-    klick(-0.7453, 0.1127),
-    klick(-0.7453, 0.1127),
-    klick(-0.7453, 0.1127),
-    klick(-0.7453, 0.1127),
-    klick(-0.7453, 0.1127),
-    klick(-0.7453, 0.1127),
-    wert<&UI::UI_rechenVarianteDiv>(4),
-    wert<&UI::UI_rechenVarianteKonv>(0),
-    Start,
-    knopf("maxIter*2"),
-    knopf("maxIter*2"),
-    foto("tour-vorschau"),
-    Start,
-    foto("tour-zoom"),
-    menue("2: Juliamenge Z=Z*Z +C(const)"),
-    knopf("CenterX =0"),
-    knopf("CenterY =0"),
-    wert<&UI::UI_Brx>(3.2),
-    Start,
-    foto("tour-julia"),
-    menue("Palette 4: (256) weniger bunt   ab cTab.=36"),
-    menue("Matrix 4x4 EIN"),
-    foto("tour-matrix"),
-    zelle(4, 3),
-    foto("tour-zelle"),
-});
+/// Goes through the words of a step from left to right.
+class Schrittspieler {
+  public:
+    Schrittspieler(UI& ui, Bedienung& hand, const Bilder& kamera)
+        : fenster(ui), bedienung(hand), bilder(kamera) {}
 
-constexpr auto Zwilling = std::to_array<Schritt>({
-    Vollbild,
-    offen("Gleichung/Equation", "tour-menue"),
-    menue("101: Z=Z^2 +C"),
-    menue("Alle Glg. Zwilling 4 EIN"),
-    wert<&UI::UI_Kopplx>(0.3),
-    wert<&UI::UI_Kopply>(0.3),
-    Start,
-    foto("tour-zwilling"),
-});
+    void spielen(const QList<Wort>& worte) {
+        rest = worte;
+        while (!rest.isEmpty() && rest.first().art != Wort::Folge) {
+            tun(rest.takeFirst());
+        }
+        QStringList boxen = bedienung.meldungen();
+        if (!rest.isEmpty()) {
+            rest.removeFirst();
+        }
+        while (!rest.isEmpty()) {
+            sehen(rest.takeFirst(), boxen);
+        }
+        if (!boxen.isEmpty()) {
+            throw Hindernis{"a message box not mentioned: " + boxen.first()};
+        }
+    }
 
-constexpr auto Orbit = std::to_array<Schritt>({
-    Vollbild,
-    menue("Nullkreuz"),
-    menue("Orbit EIN Weiss/White"),
-    klick(-0.1, 0.8),
-    menue("Linien dünn-dick/thin-thick"),
-    menue("Orbit Aktualisieren/ShowOrbit"),
-    foto("tour-orbit"),
-});
+  private:
+    /// Takes the next word if it is of that kind.
+    std::optional<QString> folgt(Wort::Art art) {
+        if (rest.isEmpty() || rest.first().art != art) {
+            return std::nullopt;
+        }
+        return rest.takeFirst().text;
+    }
 
-// The gallery of the README.
-constexpr auto Galerie = std::to_array<Schritt>({
-    Gross,
-    Vollbild,
-    wert<&UI::UI_MPx>(-0.7746806106269039),
-    wert<&UI::UI_MPy>(-0.1374168856037867),
-    wert<&UI::UI_Brx>(3e-6),
-    wert<&UI::UI_Iterationen>(8000),
-    wert<&UI::UI_zahlfarbtab>(36),
-    wert<&UI::UI_itFactor>(2),
-    wert<&UI::UI_rechenVarianteDiv>(2),
-    wert<&UI::UI_rechenVarianteKonv>(0),
-    Start,
-    galerie("galerie-1"),
+    QString verlangt(Wort::Art art, const QString& nach) {
+        const auto text = folgt(art);
+        if (!text) {
+            throw Hindernis{QString("something is missing after \"%1\"").arg(nach)};
+        }
+        return *text;
+    }
 
-    menue("2: Juliamenge Z=Z*Z +C(const)"),
-    Reset,
-    Vollbild,
-    wert<&UI::UI_MPx>(0),
-    wert<&UI::UI_Brx>(3),
-    wert<&UI::UI_CJx>(-0.8),
-    wert<&UI::UI_CJy>(0.156),
-    wert<&UI::UI_Iterationen>(1000),
-    wert<&UI::UI_zahlfarbtab>(0),
-    wert<&UI::UI_divFactor>(4),
-    wert<&UI::UI_rechenVarianteDiv>(6),
-    Start,
-    galerie("galerie-2"),
+    void tun(const Wort& wort) {
+        if (wort.art != Wort::Bild && QApplication::activePopupWidget() != nullptr) {
+            QApplication::activePopupWidget()->close();
+        }
+        switch (wort.art) {
+        case Wort::Bild:
+            return bilder(fenster, wort.text);
+        case Wort::Fett:
+            return bedienung.knopf(wort.text);
+        case Wort::Kursiv:
+            return aufschrift(wort.text);
+        case Wort::Code:
+            return stelle(wort.text);
+        case Wort::Mal: {
+            const Wort was = rest.isEmpty() ? Wort{} : rest.takeFirst();
+            for (int i = 0; i < wort.text.toInt(); ++i) {
+                tun(was);
+            }
+            return;
+        }
+        default:
+            throw Hindernis{"an arrow without a caption before it"};
+        }
+    }
 
-    menue("101: Z=Z^2 +C"),
-    Reset,
-    Vollbild,
-    menue("Ab Glg.101: Zwilling 11 EIN"),
-    wert<&UI::UI_MPx>(-0.25),
-    wert<&UI::UI_MPy>(0.2),
-    wert<&UI::UI_Brx>(2.6),
-    wert<&UI::UI_Kopplx>(0.4),
-    wert<&UI::UI_Kopply>(0.2),
-    wert<&UI::UI_Iterationen>(500),
-    wert<&UI::UI_zahlfarbtab>(36),
-    wert<&UI::UI_itFactor>(12),
-    wert<&UI::UI_rechenVarianteDiv>(2),
-    Start,
-    galerie("galerie-101"),
+    void aufschrift(const QString& text) {
+        const auto eingabe =
+            folgt(Wort::Tippen) ? std::optional(verlangt(Wort::Code, text)) : std::nullopt;
+        if (text.contains(" → ")) {
+            // "…" stands for the rest of a name that is there.
+            const QString name = eingabe.value_or("");
+            const QStringList da = QDir().entryList(QDir::Files).filter(name.section("…", 0, 0));
+            bedienung.dateinameVorlegen(name.contains("…") ? da.value(0) : name);
+            bedienung.menue(text);
+        } else if (eingabe) {
+            bedienung.tippen(text, *eingabe);
+        } else {
+            bedienung.menueOeffnen(text);
+        }
+    }
 
-    menue("Zwilling AUS"),
-    menue("5: Vierpol Z=(Z+C)/(1+C*Z^3)"),
-    Reset,
-    Vollbild,
-    wert<&UI::UI_MPx>(0),
-    wert<&UI::UI_MPy>(0),
-    wert<&UI::UI_Brx>(3.4),
-    wert<&UI::UI_zahlfarbtab>(0),
-    Start,
-    galerie("galerie-5"),
+    /// A point of the plane or a cell of the matrix.
+    void stelle(const QString& text) {
+        static const QRegularExpression Punkt(QStringLiteral("^(-?[\\d.]+) ([+-]) ([\\d.]+)i$"));
+        static const QRegularExpression Zelle(QStringLiteral("^([1-4])/([1-4])$"));
+        if (const auto p = Punkt.match(text); p.hasMatch()) {
+            bedienung.klick(p.captured(1).toDouble(), (p.captured(2) + p.captured(3)).toDouble());
+        } else if (const auto z = Zelle.match(text); z.hasMatch()) {
+            bedienung.zelle(z.captured(1).toInt(), z.captured(2).toInt());
+        } else {
+            throw Hindernis{QString("neither a point nor a cell: \"%1\"").arg(text)};
+        }
+    }
 
-    menue("110: Julia K-Wurzel(P), Z=Z-(Z^K -P)/(K*Z^(K-1) *C)"),
-    Reset,
-    Vollbild,
-    wert<&UI::UI_Brx>(3),
-    Start,
-    galerie("galerie-110"),
+    void sehen(const Wort& wort, QStringList& boxen) {
+        static const QRegularExpression Datei(QStringLiteral("\\.(png|fraktal|htm)$"));
+        const auto gleich = [](const QString& ist, const QString& soll) {
+            if (!passtAuf(ist, soll)) {
+                throw Hindernis{QString("shows \"%1\", not \"%2\"").arg(ist, soll)};
+            }
+        };
+        if (wort.art == Wort::Kursiv) {
+            gleich(bedienung.zahl(wort.text), verlangt(Wort::Code, wort.text));
+        } else if (wort.art == Wort::Fett) {
+            gleich(boxen.isEmpty() ? "no message box" : boxen.takeFirst(), wort.text);
+        } else if (wort.art == Wort::Bild) {
+            bilder(fenster, wort.text);
+        } else if (wort.text.startsWith("Wirbelwerk")) {
+            gleich(fenster.windowTitle(), wort.text);
+        } else if (wort.text.contains(Datei)) {
+            gleich(QDir().entryList(QDir::Files).filter(QFileInfo(wort.text).suffix()).join(' '),
+                   wort.text);
+        } else if (!bedienung.anzeigen().contains(wort.text)) {
+            throw Hindernis{QString("no label shows \"%1\"").arg(wort.text)};
+        }
+    }
 
-    menue("810: Julia Z=Z-(Z^8 -P)/(8*Z^7 *C), 8.Wurzel(P)"),
-    Reset,
-    Vollbild,
-    wert<&UI::UI_Brx>(2.4),
-    Start,
-    galerie("galerie-810"),
-});
+    UI& fenster;
+    Bedienung& bedienung;
+    const Bilder& bilder;
+    QList<Wort> rest;
+};
 
-constexpr std::array<Szene, 5> Szenen{{
-    {"fenster", Fenster},
-    {"tour", Rundgang},
-    {"zwilling", Zwilling},
-    {"orbit", Orbit},
-    {"galerie", Galerie},
-}};
+// --- Pages -------------------------------------------------------------------------------------
 
-bool aufnehmen(const Szene& szene, const QDir& ordner) {
+/// Replays the steps of a page in a fresh window, in a folder of its own for files.
+bool abspielen(const Seite& seite, const Bilder& bilder) {
+    const QTemporaryDir arbeitsordner;
+    QDir::setCurrent(arbeitsordner.path());
     UI fenster;
+    Bedienung bedienung(fenster);
     fenster.move(0, 0);
     fenster.show();
-    malen();
-    for (const Schritt& schritt : szene.schritte) {
-        if (!schritt.tun(fenster, ordner, schritt)) {
-            std::fprintf(stderr, "%s: cannot do \"%s\"\n", szene.name, schritt.text);
+    Bedienung::warten();
+    Schrittspieler spieler(fenster, bedienung, bilder);
+    for (const Absatz& absatz : seite.schritte()) {
+        try {
+            spieler.spielen(absatz.worte);
+        } catch (const Hindernis& hindernis) {
+            melden(seite, absatz.zeile, hindernis.text);
             return false;
         }
-        malen();
     }
     return true;
 }
 
+/// Text in italics is a caption of the program and nothing else is; pictures are there.
+bool verweiseStimmen(const Seite& seite) {
+    UI fenster;
+    const Bedienung bedienung(fenster);
+    const QDir ordner = QFileInfo(seite.name).dir();
+    bool gut = true;
+    for (const Absatz& absatz : seite.absaetze) {
+        for (const Wort& wort : absatz.worte) {
+            if (wort.art == Wort::Kursiv && !bedienung.hatAufschrift(wort.text)) {
+                melden(seite, absatz.zeile, QString("no caption \"%1\"").arg(wort.text));
+                gut = false;
+            }
+            if (wort.art == Wort::Bild && !ordner.exists(wort.text)) {
+                melden(seite, absatz.zeile, "no picture " + wort.text);
+                gut = false;
+            }
+        }
+    }
+    return gut;
+}
+
+/// The same steps in another language.
+bool gleicheSchritte(const Seite& a, const Seite& b) {
+    const QList<Absatz> von = a.schritte();
+    const QList<Absatz> nach = b.schritte();
+    for (qsizetype i = 0; i < std::max(von.size(), nach.size()); ++i) {
+        if (i >= von.size() || i >= nach.size() || von[i].worte != nach[i].worte) {
+            melden(a, i < von.size() ? von[i].zeile : 0, "not the same step as");
+            melden(b, i < nach.size() ? nach[i].zeile : 0, "this one");
+            return false;
+        }
+    }
+    return true;
+}
+
+bool pruefen(const QList<Seite>& seiten) {
+    const Seite* gespielt = nullptr;
+    bool gut = true;
+    for (const Seite& seite : seiten) {
+        gut = verweiseStimmen(seite) && gut;
+        if (!seite.schritte().isEmpty()) {
+            gut =
+                (gespielt == nullptr ? abspielen(seite, {}) : gleicheSchritte(*gespielt, seite)) &&
+                gut;
+            gespielt = &seite;
+        }
+    }
+    return gut && gespielt != nullptr;
+}
+
 /// Warnings only: the driver reports its rows as it goes.
-void melden(QtMsgType art, const QMessageLogContext& /*kontext*/, const QString& text) {
+void protokoll(QtMsgType art, const QMessageLogContext& /*kontext*/, const QString& text) {
     if (art != QtDebugMsg) {
         std::fprintf(stderr, "%s\n", qPrintable(text));
     }
@@ -361,25 +291,32 @@ void melden(QtMsgType art, const QMessageLogContext& /*kontext*/, const QString&
 } // namespace
 
 int main(int argc, char** argv) {
+    QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     const QApplication app(argc, argv);
     const QStringList worte = QApplication::arguments();
-    if (worte.size() < 2) {
-        std::fputs("usage: wirbelwerk_fenster FOLDER [SCENE]...\n", stderr);
+    const bool aufnehmen = worte.value(1) == "pictures";
+    const qsizetype ersteSeite = aufnehmen ? 3 : 2;
+    if (worte.size() <= ersteSeite || !(aufnehmen || worte[1] == "check")) {
+        std::fputs("usage: wirbelwerk_fenster check PAGE...\n"
+                   "       wirbelwerk_fenster pictures FOLDER PAGE...\n",
+                   stderr);
         return 2;
     }
-    qInstallMessageHandler(melden);
-    const QStringList gewaehlt = worte.mid(2);
-    for (const QString& name : gewaehlt) {
-        if (std::ranges::none_of(Szenen, [&](const Szene& s) { return name == s.name; })) {
-            std::fprintf(stderr, "no such scene: %s\n", qPrintable(name));
+    qInstallMessageHandler(protokoll);
+    QList<Seite> seiten;
+    for (const QString& name : worte.mid(ersteSeite)) {
+        QFile datei(name);
+        if (!datei.open(QIODevice::ReadOnly)) {
+            std::fprintf(stderr, "cannot read %s\n", qPrintable(name));
             return 2;
         }
+        seiten << Seite{QFileInfo(name).absoluteFilePath(),
+                        absaetzeLesen(QString::fromUtf8(datei.readAll()))};
     }
-    for (const Szene& szene : Szenen) {
-        if ((gewaehlt.isEmpty() || gewaehlt.contains(szene.name)) &&
-            !aufnehmen(szene, QDir(worte[1]))) {
-            return 1;
-        }
+    if (!aufnehmen) {
+        return pruefen(seiten) ? 0 : 1;
     }
-    return 0;
+    const Bilder bilder{QDir(QDir(worte[2]).absolutePath())};
+    return std::ranges::all_of(seiten, [&](const Seite& s) { return abspielen(s, bilder); }) ? 0
+                                                                                             : 1;
 }
