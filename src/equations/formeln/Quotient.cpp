@@ -1,6 +1,6 @@
 #include "equations/formeln/Quotient.h"
 
-std::complex<double> geteilt(const std::complex<double>& z, const std::complex<double>& n) {
+std::complex<double> geteilt(std::complex<double> z, std::complex<double> n) {
     using K = std::complex<double>;
     using Teile = quotient::Teile<double>;
     const double a = z.real(), b = z.imag(), c = n.real(), d = n.imag();

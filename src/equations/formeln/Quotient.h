@@ -94,10 +94,9 @@ template <class K, class T, class Maske>
 
 } // namespace quotient
 
-/// z / n of a single pixel: compiled once, like the library's. Where both parts are NaN the library
-/// decides, which recovers infinities.
-[[nodiscard]] std::complex<double> geteilt(const std::complex<double>& z,
-                                           const std::complex<double>& n);
+/// z / n of a single pixel: compiled once, like the library's, and by value, so that the parts stay
+/// in registers. Where both parts are NaN the library decides, which recovers infinities.
+[[nodiscard]] std::complex<double> geteilt(std::complex<double> z, std::complex<double> n);
 
 /// z / n in lanes. A quotient whose parts are both NaN is left to the point kernel.
 template <class T>
