@@ -153,9 +153,12 @@ class Rundenlauf
         }
     }
 
-    /// Steps of the round from step `von`, whole pieces.
+    /// Steps of the round from step `von`, whole pieces. The first rounds are multiples of 3 and of
+    /// 5 pieces long, because rounded orbits settle in cycles of such lengths as well.
     static constexpr qint64 laenge(qint64 von) {
-        return von < 64 ? (Formel::teuer ? 16 : 32) : (von < 256 ? 64 : von / 4 / Stueck * Stueck);
+        return von < 32
+                   ? 3 * Stueck
+                   : (von < 64 ? 5 * Stueck : (von < 256 ? 8 * Stueck : von / 4 / Stueck * Stueck));
     }
 
     void fuellen(Schlange& q) const {
