@@ -1,3 +1,5 @@
 wirbelwerk_test(test_kerne equations/test_kerne.cpp equations/Bezugskern.cpp equations/Bezugskern.h)
 wirbelwerk_test(test_startwerte equations/test_startwerte.cpp)
 wirbelwerk_test(test_zeilenkern equations/test_zeilenkern.cpp equations/Bezugskern.cpp equations/Bezugskern.h)
+wirbelwerk_test(test_quotient equations/test_quotient.cpp)
+wirbelwerk_spuren(test_quotient ${CMAKE_CURRENT_SOURCE_DIR}/equations/Quotientenprobe.cpp)

@@ -58,8 +58,9 @@ template <class T>
     const auto teile = (uNull | nicht(u < Kleinste)) & (vNull | nicht(v < Kleinste)) &
                        (u < Vergroesserbar) & (v < Vergroesserbar) & nicht(g < Epsilon) &
                        (g < HalbeGroesste);
-    const auto produkte = (uNull | nicht(absolut(w.uq) < Kleinste)) &
-                          (vNull | nicht(absolut(w.vq) < Kleinste)) & (T(Kleinste) < absolut(w.q));
+    // Strictly: a product that was rounded up to the smallest normal number has lost bits.
+    const auto produkte = (uNull | (T(Kleinste) < absolut(w.uq))) &
+                          (vNull | (T(Kleinste) < absolut(w.vq))) & (T(Kleinste) < absolut(w.q));
     return teile & (kNull | produkte);
 }
 

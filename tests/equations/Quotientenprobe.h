@@ -1,0 +1,10 @@
+#pragma once
+
+#include "equations/Rechenweise.h"
+
+/// Quotients x + iy = (a + ib) / (c + id) in lanes of one instruction set, 32 of them.
+inline constexpr int Probenbreite = 32;
+
+template <Befehlssatz satz>
+void inSpurenTeilen(const double* a, const double* b, const double* c, const double* d, double* x,
+                    double* y);
