@@ -45,22 +45,25 @@ template <class T>
 [[nodiscard]] auto gutartig(const Teile<T>& t, const T& q) {
     const T g = absolut(t.g);
     const T kleinstes = kleineres(kleineres(absolut(t.u), absolut(t.v)), absolut(q));
-    return (T(Kleinste) < kleinstes) & nicht(g < Epsilon) & (g < HalbeGroesste);
+    const auto gNormal = nicht(g < Epsilon);
+    return (T(Kleinste) < kleinstes) & gNormal & (g < HalbeGroesste);
 }
 
 /// Lanes where the same holds although some parts are zero, as they are for ever once an orbit has
 /// come to the real axis: a zero stays a zero of the same sign in every order and at every scale.
 template <class T>
 [[nodiscard]] auto gutartigMitNull(const Teile<T>& t, const Zwischenwerte<T>& w) {
-    const T u = absolut(t.u), v = absolut(t.v), g = absolut(t.g);
+    const T u = absolut(t.u), v = absolut(t.v), g = absolut(t.g), q = absolut(w.q);
+    const T uq = absolut(w.uq), vq = absolut(w.vq);
     const auto uNull = nicht(T(0.0) < u), vNull = nicht(T(0.0) < v);
     const auto kNull = nicht(T(0.0) < absolut(t.k));
-    const auto teile = (uNull | nicht(u < Kleinste)) & (vNull | nicht(v < Kleinste)) &
-                       (u < Vergroesserbar) & (v < Vergroesserbar) & nicht(g < Epsilon) &
-                       (g < HalbeGroesste);
+    const auto uNormal = nicht(u < Kleinste), vNormal = nicht(v < Kleinste);
+    const auto gNormal = nicht(g < Epsilon);
+    const auto teile = (uNull | uNormal) & (vNull | vNormal) & (u < Vergroesserbar) &
+                       (v < Vergroesserbar) & gNormal & (g < HalbeGroesste);
     // Strictly: a product that was rounded up to the smallest normal number has lost bits.
-    const auto produkte = (uNull | (T(Kleinste) < absolut(w.uq))) &
-                          (vNull | (T(Kleinste) < absolut(w.vq))) & (T(Kleinste) < absolut(w.q));
+    const auto produkte =
+        (uNull | (T(Kleinste) < uq)) & (vNull | (T(Kleinste) < vq)) & (T(Kleinste) < q);
     return teile & (kNull | produkte);
 }
 

@@ -89,7 +89,9 @@ class Rundenlauf
         M lebt = b.lebt;
         b.blick = s;
         b.blickBei = b.getan;
-        for (qint64 i = 0; i < schritte && eine(lebt); ++i) {
+        qint64 gemacht = 0;
+        while (gemacht < schritte && eine(lebt)) {
+            ++gemacht;
             const auto abbr = schritt(s);
             const T rq = messen(s);
             M weiter = lebt & (rq < grenze);
@@ -100,14 +102,14 @@ class Rundenlauf
             lebt = weiter;
             if (eine(ende)) {
                 if constexpr (kannAbbrechen) {
-                    enden(q, b, s, rq, ende, ende & abbr, b.getan + i + 1);
+                    enden(q, b, s, rq, ende, ende & abbr, b.getan + gemacht);
                 } else {
-                    enden(q, b, s, rq, ende, M(0), b.getan + i + 1);
+                    enden(q, b, s, rq, ende, M(0), b.getan + gemacht);
                 }
             }
         }
         r.getestet = r.getestet || eine(lebt);
-        r.schritteGetan += schritte * L;
+        r.schritteGetan += gemacht * L;
         b.s = s;
         b.lebt = lebt;
         b.getan += schritte;
@@ -126,10 +128,10 @@ class Rundenlauf
         for (unsigned w = bits(welche); w != 0; w &= w - 1) {
             const int l = __builtin_ctz(w);
             const qint32 pixel = q.pixel[b.erster + l];
-            const bool aborted = (abbruch >> l & 1u) != 0;
-            const qint64 gezaehlt = aborted && !Formel::zaehltAbbruch ? schritt - 1 : schritt;
-            r.getestet = r.getestet || !aborted;
-            r.wert[pixel] = aborted ? 0.0 : mass[l];
+            const bool abbr = (abbruch >> l & 1u) != 0;
+            const qint64 gezaehlt = abbr && !Formel::zaehltAbbruch ? schritt - 1 : schritt;
+            r.getestet = r.getestet || !abbr;
+            r.wert[pixel] = abbr ? 0.0 : mass[l];
             r.zaehler[pixel] = static_cast<qint32>(gezaehlt) + 1;
         }
         if (offen != 0) {
