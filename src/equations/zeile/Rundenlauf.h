@@ -115,6 +115,40 @@ class Rundenlauf
         b.getan += schritte;
     }
 
+    /// The same for cheap steps, on the guess that no lane ends; false, and nothing done, when one
+    /// does.
+    [[nodiscard, gnu::flatten, gnu::noinline]] bool
+    durcheilen(Buendel& b, const Schrittart& schritt, qint64 schritte) {
+        const T grenze(r.grenze);
+        Stand<Wert> s = b.s;
+        M lebt = b.lebt;
+        for (qint64 i = 0; i < schritte; ++i) {
+            const auto abbr = schritt(s);
+            lebt = lebt & (messen(s) < grenze);
+            if constexpr (kannAbbrechen) {
+                lebt = lebt & ~abbr;
+            }
+        }
+        r.schritteGetan += schritte * L;
+        if (eine(b.lebt & ~lebt)) {
+            return false;
+        }
+        b.s = s;
+        b.getan += schritte;
+        return true;
+    }
+
+    /// The guess pays where a step costs no more than asking whether a lane has ended.
+    void stueckRechnen(const Schlange& q, Buendel& b, const Schrittart& schritt, qint64 schritte,
+                       bool raten) {
+        if constexpr (!Formel::teuer) {
+            if (raten && durcheilen(b, schritt, schritte)) {
+                return;
+            }
+        }
+        durchlaufen(q, b, schritt, schritte);
+    }
+
     /// Results of lanes whose orbit ends with its step number `schritt`; some of them are aborted.
     /// Those where the library's arithmetic might have gone another way are left to the point
     /// kernel, which goes on from the last look unless the state was not to be trusted even there.
@@ -198,7 +232,7 @@ class Rundenlauf
             const Stand<Wert> anfang = b.s;
             for (qint64 stueck = Lauf::kleiner(erstes, bis - von); b.getan < bis && eine(b.lebt);
                  stueck = Lauf::kleiner(Stueck, bis - b.getan)) {
-                durchlaufen(q, b, schritt, stueck);
+                stueckRechnen(q, b, schritt, stueck, von > 0);
                 if (r.abkuerzung) {
                     periodischeBeenden(q, rest, b, anfang, von);
                 }
@@ -212,7 +246,8 @@ class Rundenlauf
         q.anzahl = uebrig;
     }
 
-    /// Lanes whose state has come back, since the last look or since the beginning of the round.
+    /// Lanes whose state has come back since the beginning of the round, or, where steps are dear,
+    /// since the last look.
     void periodischeBeenden(const Schlange& q, Rest& rest, Buendel& b, const Stand<Wert>& anfang,
                             qint64 von) {
         const auto vergleichen = [&](const Stand<Wert>& frueher, qint64 bei) {
@@ -222,9 +257,9 @@ class Rundenlauf
                 beenden(q, b.erster, b.s, neu, &rest, (r.schritte - b.getan) % (b.getan - bei));
             }
         };
-        vergleichen(b.blick, b.blickBei);
-        if (b.blickBei != von) {
-            vergleichen(anfang, von);
+        vergleichen(anfang, von);
+        if (Formel::teuer && b.blickBei != von) {
+            vergleichen(b.blick, b.blickBei);
         }
     }
 
