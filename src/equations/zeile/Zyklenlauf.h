@@ -3,10 +3,14 @@
 #include "equations/punkt/Wiederkehr.h"
 #include "equations/zeile/Spurenlauf.h"
 
-/// The loop with a cycle search. A bundle has a history for each lane and is run to the end of all
-/// its orbits; the fewer lanes wait for the last one the better.
+/// Registers of a bundle. It is run to the end of all its orbits, so the fewer lanes wait for the
+/// last one the better; dear steps gain more from a second register to work on.
+template <class Formel>
+inline constexpr int Zyklenregister = Formel::teuer ? 2 : 1;
+
+/// The loop with a cycle search. A bundle has a history for each lane.
 template <class Satz, class Formel, bool mitZwilling>
-class Zyklenlauf : Spurenlauf<Satz, Formel, mitZwilling, 1> {
+class Zyklenlauf : Spurenlauf<Satz, Formel, mitZwilling, Zyklenregister<Formel>> {
   public:
     explicit Zyklenlauf(Zeilenstueck& stueck) : Lauf(stueck) {}
 
@@ -17,7 +21,7 @@ class Zyklenlauf : Spurenlauf<Satz, Formel, mitZwilling, 1> {
     }
 
   private:
-    using Lauf = Spurenlauf<Satz, Formel, mitZwilling, 1>;
+    using Lauf = Spurenlauf<Satz, Formel, mitZwilling, Zyklenregister<Formel>>;
     using Lauf::kannAbbrechen;
     using Lauf::L;
     using Lauf::r;
@@ -81,7 +85,7 @@ class Zyklenlauf : Spurenlauf<Satz, Formel, mitZwilling, 1> {
         Buendel b{{start, start},
                   {start, start},
                   0,
-                  ersteSpuren<Satz, 1>(anzahl),
+                  ersteSpuren<Satz, Lauf::Vektoren>(anzahl),
                   M(0),
                   M(0),
                   M(r.schritte),
