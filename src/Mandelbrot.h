@@ -1,8 +1,8 @@
 #pragma once
 
-#include "model/Orbitstand.h"
-#include "model/Signatur.h"
+#include "Orbitstand.h"
 #include "Schalter.h"
+#include "Signatur.h"
 #include "stdafx.h"
 
 #include <optional>
