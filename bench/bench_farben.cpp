@@ -18,7 +18,7 @@ std::unique_ptr<Mandelbrot> gespeichertesBild() {
     menge->resize(Ansicht);
     menge->show();
     menge->Initialisierung();
-    menge->g_halbesBild = 0;
+    menge->g_halbesBild = Vollbild;
     menge->grab();
     return menge;
 }

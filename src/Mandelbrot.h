@@ -1,8 +1,8 @@
 #pragma once
 
-#include "model/Orbitstand.h"
-#include "model/Signatur.h"
+#include "Orbitstand.h"
 #include "Schalter.h"
+#include "Signatur.h"
 #include "stdafx.h"
 
 #include <optional>
@@ -48,7 +48,7 @@ class Mandelbrot : public QWidget {
     qint32 g_NullkreuzJa = 0;        ///< 1 = zero cross
     qint32 g_GitterJa = 0;           ///< 1 = grid around zero, 2 = around the centre
     qint32 g_JuliaJa = 0;            ///< 1 = Julia type; set by the driver from the number's parity
-    qint32 g_halbesBild = 0;         ///< 0 full, 1..4 quarter, 10..14, 100, 300, 400 preview
+    qint32 g_halbesBild = 0;         ///< picture mode, a Bildmodus
     mutable qint32 g_GenauJa = 0;    ///< 1 = the last bailout test was a cycle search
     qint32 g_Max_glg_Abbruch = 0;    ///< highest bailout variant
     qint32 g_Max_rgbFarben = 0;      ///< colours of the palette used last: 256, 512 or 582

@@ -12,6 +12,36 @@ enum Anforderung : qint32 {
     VorschauRechnen = 3, ///< parameters changed by an operation: compute a preview
 };
 
+/// The values of g_halbesBild: which part of the window the picture fills. A loaded file may bring
+/// any other number.
+enum Bildmodus : qint32 {
+    Vollbild = 0,
+    ViertelLinksOben = 1, ///< the start picture
+    ViertelRechtsOben = 2,
+    ViertelLinksUnten = 3,
+    ViertelRechtsUnten = 4,
+    VollvorschauRechtsOben = 10,   ///< previews of the full picture, by the corner they stand in
+    ViertelvorschauLinksOben = 11, ///< previews of the quarters, in the quarter's own corner
+    ViertelvorschauRechtsOben = 12,
+    ViertelvorschauLinksUnten = 13,
+    ViertelvorschauRechtsUnten = 14,
+    VollvorschauLinksOben = 100,
+    VollvorschauLinksUnten = 300,
+    VollvorschauRechtsUnten = 400,
+};
+
+/// From a full or quarter picture to its preview, and the remainder back.
+inline constexpr qint32 VorschauAbstand = 10;
+
+[[nodiscard]] constexpr bool istViertel(qint32 halbesBild) {
+    return halbesBild >= ViertelLinksOben && halbesBild <= ViertelRechtsUnten;
+}
+
+/// Every mode from the first preview on is one.
+[[nodiscard]] constexpr bool istVorschau(qint32 halbesBild) {
+    return halbesBild >= VollvorschauRechtsOben;
+}
+
 /// The values of g_OrbitJa: the orbit's colour.
 enum Orbitfarbe : qint32 {
     OrbitAus = 0,

@@ -200,13 +200,14 @@ void Bedienung::mausklick(double spalte, double zeile) {
 
 void Bedienung::klick(double x, double y) {
     const Mandelbrot& m = *fenster.Menge;
-    if (m.g_halbesBild > 4) {
+    if (m.g_halbesBild > ViertelRechtsUnten) {
         throw Hindernis{"a preview takes no clicks"};
     }
-    const int teiler = m.g_halbesBild == 0 ? 1 : 2;
+    const int teiler = m.g_halbesBild == Vollbild ? 1 : 2;
     const int breite = (m.width() - Mandelbrot::Streifenbreite) / teiler;
-    const double links = m.g_halbesBild == 2 || m.g_halbesBild == 4 ? breite : 0;
-    const double oben = m.g_halbesBild >= 3 ? m.height() / teiler : 0;
+    const double links =
+        m.g_halbesBild == ViertelRechtsOben || m.g_halbesBild == ViertelRechtsUnten ? breite : 0;
+    const double oben = m.g_halbesBild >= ViertelLinksUnten ? m.height() / teiler : 0;
     const double jePixel = (m.R_Max - m.R_Min) / breite;
     mausklick(links + (x - m.R_Min) / jePixel, oben + (m.I_Max - y) / jePixel);
 }

@@ -26,7 +26,7 @@ QImage startbild(Mandelbrot& menge, qint32 nummer, const QSize& groesse) {
     menge.wahl_Gleichung = nummer;
     menge.resize(groesse.width() + Mandelbrot::Streifenbreite, groesse.height());
     menge.Initialisierung();
-    menge.g_halbesBild = 0;
+    menge.g_halbesBild = Vollbild;
     menge.Bildflaeche = QImage();
     return menge.grab().toImage().copy(QRect(QPoint(0, 0), groesse));
 }
@@ -57,21 +57,21 @@ constexpr const char* Bildordner = "bilder/katalog"; ///< beside the page
 constexpr std::size_t BilderJeZeile = 2; ///< an equation and its Julia equation; Newton: any two
 
 /// One row of a table of the page: the pictures, then names and remarks.
-QString seitenzeile(std::span<const Gleichung> reihe) {
+QString seitenzeile(std::span<const Gleichung> mitglieder) {
     QString bilder;
     QStringList texte;
-    for (const Gleichung& g : reihe) {
+    for (const Gleichung& g : mitglieder) {
         bilder += QString("| ![equation %1](%2/%1.png) ").arg(g.nummer).arg(Bildordner);
         const QByteArrayView name(g.name.data(), static_cast<qsizetype>(g.name.size()));
         texte += QString("`%1`").arg(QString::fromUtf8(name).trimmed());
     }
     for (const Bemerkung& b : Bemerkungen) {
         const auto trifft = [&](const Gleichung& g) { return g.nummer == b.nummer; };
-        if (std::ranges::any_of(reihe, trifft)) {
+        if (std::ranges::any_of(mitglieder, trifft)) {
             texte += QString("<br>%1: %2").arg(b.nummer).arg(QString::fromUtf8(b.text));
         }
     }
-    for (std::size_t i = reihe.size(); i < BilderJeZeile; ++i) {
+    for (std::size_t i = mitglieder.size(); i < BilderJeZeile; ++i) {
         bilder += "| ";
     }
     return bilder + "| " + texte.join("<br>") + " |\n";

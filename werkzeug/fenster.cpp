@@ -4,6 +4,8 @@
 //     wirbelwerk_fenster check PAGE...             pages with steps must have the same ones; on all
 //                                                  pages italics must be captions of the window
 //                                                  and pictures must be there
+//     wirbelwerk_fenster check-in LANGUAGE PAGE... the same, on a system of that language only,
+//                                                  such as de_DE
 //     wirbelwerk_fenster pictures FOLDER PAGE...   writes the pictures of the steps into FOLDER
 //
 // Pictures need a display, so that the window looks as a user sees it; docs/bilder.sh provides one.
@@ -11,6 +13,7 @@
 #include "Bedienung.h"
 #include "Runden.h"
 #include "Schrittfolge.h"
+#include "window/Sprache.h"
 
 #include <QDir>
 #include <QFile>
@@ -292,14 +295,21 @@ void protokoll(QtMsgType art, const QMessageLogContext& /*kontext*/, const QStri
 
 int main(int argc, char** argv) {
     QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
-    const QApplication app(argc, argv);
+    QApplication app(argc, argv);
+    qtTexteUebersetzen(app);
     const QStringList worte = QApplication::arguments();
     const bool aufnehmen = worte.value(1) == "pictures";
-    const qsizetype ersteSeite = aufnehmen ? 3 : 2;
-    if (worte.size() <= ersteSeite || !(aufnehmen || worte[1] == "check")) {
+    const bool inSprache = worte.value(1) == "check-in";
+    const qsizetype ersteSeite = aufnehmen || inSprache ? 3 : 2;
+    if (worte.size() <= ersteSeite || !(aufnehmen || inSprache || worte[1] == "check")) {
         std::fputs("usage: wirbelwerk_fenster check PAGE...\n"
+                   "       wirbelwerk_fenster check-in LANGUAGE PAGE...\n"
                    "       wirbelwerk_fenster pictures FOLDER PAGE...\n",
                    stderr);
+        return 2;
+    }
+    if (inSprache && QLocale().name() != worte[2]) {
+        std::fprintf(stderr, "the system's language is %s\n", qPrintable(QLocale().name()));
         return 2;
     }
     qInstallMessageHandler(protokoll);

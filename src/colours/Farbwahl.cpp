@@ -114,8 +114,8 @@ std::span<const quint8> aktivePalette(Mandelbrot& menge) {
     return menge.Palette48;
 }
 
-Farbtripel grundfarbe(std::span<const quint8> palette, std::size_t reihe) {
-    return {palette[3 * reihe], palette[3 * reihe + 1], palette[3 * reihe + 2]};
+Farbtripel grundfarbe(std::span<const quint8> palette, std::size_t zeile) {
+    return {palette[3 * zeile], palette[3 * zeile + 1], palette[3 * zeile + 2]};
 }
 
 /// Code of the colour variant: the asked cell, or the model's where none is asked.
@@ -133,12 +133,12 @@ qint32 tabellenplatz(const Mandelbrot& menge) {
 Farbtripel farbvariante(const Farbtripel& grund, qint64 code, qint32 z_reduz) {
     const bool mitPlatz = z_reduz >= 0 && z_reduz < TabellenJePalette;
     const qint64 zelle = std::max<qint64>(code, ErsterCode);
-    const qint64 reihe = zelle / 10 - 1;
+    const qint64 zeile = zelle / 10 - 1;
     const qint64 spalte = zelle % 10 - 1;
-    if (reihe > 3 || spalte < 0 || spalte > 3) {
+    if (zeile > 3 || spalte < 0 || spalte > 3) {
         return grund;
     }
-    const auto r = static_cast<std::size_t>(reihe);
+    const auto r = static_cast<std::size_t>(zeile);
     const auto s = static_cast<std::size_t>(spalte);
     // The reductions reach the picture through the other columns only: the first column shows
     // the palette's own colours, for comparison.
@@ -175,5 +175,5 @@ QColor Mandelbrot::FarbeV1(quint32 Iterationen, quint32 farbNr, quint32 sw1oder2
 }
 
 QColor Mandelbrot::FarbeKreuze(quint32 wechselindex) const {
-    return QColor::fromRgb(Kreuzfarben[kreuzreihe(wechselindex)].farbe);
+    return QColor::fromRgb(Kreuzfarben[kreuzzeile(wechselindex)].farbe);
 }

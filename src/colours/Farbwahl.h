@@ -72,11 +72,11 @@ inline constexpr std::array<Kreuzfarbe, 9> Kreuzfarben{{
 }};
 
 /// Row of Kreuzfarben that a mark is drawn in. Marks outside 101..402 count as 201.
-[[nodiscard]] constexpr std::size_t kreuzreihe(quint32 marke) noexcept {
+[[nodiscard]] constexpr std::size_t kreuzzeile(quint32 marke) noexcept {
     const quint32 gueltig = marke < 101 || marke > 402 ? 201 : marke;
-    std::size_t reihe = 0;
-    while (reihe + 1 < Kreuzfarben.size() && Kreuzfarben[reihe].marke != gueltig) {
-        ++reihe;
+    std::size_t zeile = 0;
+    while (zeile + 1 < Kreuzfarben.size() && Kreuzfarben[zeile].marke != gueltig) {
+        ++zeile;
     }
-    return reihe;
+    return zeile;
 }

@@ -92,20 +92,20 @@ constexpr int laenge(std::span<const Abschnitt> abschnitte) {
 static_assert(laenge(DreiAbschnitte) == int{HauptFarben});
 static_assert(laenge(SechsAbschnitte) == int{HauptFarben});
 
-const std::array<qint32, Kanaele>& grundfarbe(qint8 reihe) {
+const std::array<qint32, Kanaele>& grundfarbe(qint8 zeile) {
     constexpr int letzte = static_cast<int>(Palroot.size()) - 1;
-    return Palroot[static_cast<std::size_t>(std::clamp<int>(reihe, 0, letzte))];
+    return Palroot[static_cast<std::size_t>(std::clamp<int>(zeile, 0, letzte))];
 }
 
 /// The working values run on from section to section: what the whole-number steps leave over is
 /// carried into the next ramp.
 void rampen(std::span<quint8> ziel, std::span<const Abschnitt> abschnitte,
-            std::span<const qint8> reihen) {
+            std::span<const qint8> zeilen) {
     std::array<qint32, Kanaele> arbeit{};
     std::array<qint32, Kanaele> von{};
     std::size_t stelle = 0;
     for (const Abschnitt& a : abschnitte) {
-        const std::array<qint32, Kanaele>& nach = grundfarbe(reihen[a.ziel]);
+        const std::array<qint32, Kanaele>& nach = grundfarbe(zeilen[a.ziel]);
         const auto davor = arbeit;
         for (int i = 0; i < a.farben; ++i) {
             for (std::size_t k = 0; k < Kanaele; ++k) {
@@ -130,7 +130,7 @@ void rampen(std::span<quint8> ziel, std::span<const Abschnitt> abschnitte,
 // --- Fixed palette -------------------------------------------------------------------------------
 
 struct Anker {
-    int reihe;
+    int zeile;
     std::array<int, Kanaele> farbe;
 };
 
@@ -165,17 +165,17 @@ consteval std::array<quint8, Kanaele * FestFarben> festeFarben() {
     for (std::size_t a = 0; a + 1 < FestAnker.size(); ++a) {
         const Anker& links = FestAnker[a];
         const Anker& rechts = FestAnker[a + 1];
-        const int breite = rechts.reihe - links.reihe;
+        const int breite = rechts.zeile - links.zeile;
         for (int i = 0; i <= breite; ++i) {
-            const int reihe = links.reihe + i;
+            const int zeile = links.zeile + i;
             std::array<int, Kanaele> farbe{};
             for (std::size_t k = 0; k < Kanaele; ++k) {
                 farbe[k] = (2 * (links.farbe[k] * (breite - i) + rechts.farbe[k] * i) + breite) /
                            (2 * breite);
             }
             if (i > 0 && i < breite) {
-                const bool ungerade = reihe % 2 != 0;
-                if (reihe < GruenAb) {
+                const bool ungerade = zeile % 2 != 0;
+                if (zeile < GruenAb) {
                     farbe[1] = ungerade ? 2 : 0;
                 }
                 if (ungerade) {
@@ -183,7 +183,7 @@ consteval std::array<quint8, Kanaele * FestFarben> festeFarben() {
                 }
             }
             for (std::size_t k = 0; k < Kanaele; ++k) {
-                tabelle[Kanaele * static_cast<std::size_t>(reihe) + k] =
+                tabelle[Kanaele * static_cast<std::size_t>(zeile) + k] =
                     static_cast<quint8>(farbe[k]);
             }
         }
@@ -208,13 +208,13 @@ void spektralpalette(std::span<quint8, Kanaele * SpektralFarben> ziel) {
 }
 
 void dreifarbenpalette(std::span<quint8, Kanaele * HauptFarben> ziel,
-                       std::span<const qint8, 3> reihen) {
-    rampen(ziel, DreiAbschnitte, reihen);
+                       std::span<const qint8, 3> zeilen) {
+    rampen(ziel, DreiAbschnitte, zeilen);
 }
 
 void sechsfarbenpalette(std::span<quint8, Kanaele * HauptFarben> ziel,
-                        std::span<const qint8, 6> reihen) {
-    rampen(ziel, SechsAbschnitte, reihen);
+                        std::span<const qint8, 6> zeilen) {
+    rampen(ziel, SechsAbschnitte, zeilen);
 }
 
 std::span<const quint8, Kanaele * FestFarben> festpalette() { return Palette; }
@@ -224,13 +224,13 @@ void Mandelbrot::fillPaletteWave() { spektralpalette(colormapWave); }
 void Mandelbrot::fillPalette48(quint32 kontr, quint32 col_A, quint32 col_B, quint32 col_C,
                                quint32 col_D, quint32 col_E, quint32 col_F) {
     const std::array<quint32, 6> wunsch{col_A, col_B, col_C, col_D, col_E, col_F};
-    const auto ersetzt = [&wunsch](auto reihen) {
-        for (std::size_t i = 0; i < reihen.size(); ++i) {
+    const auto ersetzt = [&wunsch](auto zeilen) {
+        for (std::size_t i = 0; i < zeilen.size(); ++i) {
             if (wunsch[i] != 0) {
-                reihen[i] = static_cast<qint8>(wunsch[i]);
+                zeilen[i] = static_cast<qint8>(wunsch[i]);
             }
         }
-        return reihen;
+        return zeilen;
     };
     if (kontr < 2) {
         dreifarbenpalette(Palette48, ersetzt(DreiHauptfarben));

@@ -41,13 +41,13 @@ inline constexpr std::array<qint8, 6> SechsHauptfarben{8, 9, 11, 12, 28, 15};
 /// ends and brightened by the exponent 0.8.
 void spektralpalette(std::span<quint8, 3 * SpektralFarben> ziel);
 
-/// Writes the ramp through three main colours. reihen are rows of Palroot; a row outside 0..47
+/// Writes the ramp through three main colours. zeilen are rows of Palroot; a row outside 0..47
 /// counts as the nearest row.
-void dreifarbenpalette(std::span<quint8, 3 * HauptFarben> ziel, std::span<const qint8, 3> reihen);
+void dreifarbenpalette(std::span<quint8, 3 * HauptFarben> ziel, std::span<const qint8, 3> zeilen);
 
-/// Writes the ramp through six main colours. reihen are rows of Palroot; a row outside 0..47
+/// Writes the ramp through six main colours. zeilen are rows of Palroot; a row outside 0..47
 /// counts as the nearest row.
-void sechsfarbenpalette(std::span<quint8, 3 * HauptFarben> ziel, std::span<const qint8, 6> reihen);
+void sechsfarbenpalette(std::span<quint8, 3 * HauptFarben> ziel, std::span<const qint8, 6> zeilen);
 
 /// The fixed palette: dark purple over orange to yellow.
 [[nodiscard]] std::span<const quint8, 3 * FestFarben> festpalette();

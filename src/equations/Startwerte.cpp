@@ -152,10 +152,10 @@ void speicherLeeren(Mandelbrot& m) {
         };
         (leere(bilder), ...);
     };
-    const auto leereReihen = [](auto&... reihen) { (reihen.fill(0), ...); };
+    const auto leereFolgen = [](auto&... folgen) { (folgen.fill(0), ...); };
     leereBilder(m.ImageDoubles, m.ImageIntegers, m.ImageGitterIntegers, m.ImageViertelDoubles,
                 m.ImageViertelIntegers, m.ImageViertelGitterIntegers);
-    leereReihen(m.UnDo0Doubles, m.UnDo1Doubles, m.UnDo2Doubles, m.UnDo3Doubles, m.UnDo4Doubles,
+    leereFolgen(m.UnDo0Doubles, m.UnDo1Doubles, m.UnDo2Doubles, m.UnDo3Doubles, m.UnDo4Doubles,
                 m.UnDo0Integers, m.UnDo1Integers, m.UnDo2Integers, m.UnDo3Integers,
                 m.UnDo4Integers);
     std::fill_n(m.OrbitX.begin(), Mandelbrot::OrbitMax + 1, 0.0);
@@ -181,7 +181,7 @@ void schalterGrundstellung(Mandelbrot& m) {
     m.g_Gitterabstand = 0.0;
     m.g_Genauigkeit = 0.0001;
     m.g_zycmax = 7;
-    const bool ganz = m.g_halbesBild == 0;
+    const bool ganz = m.g_halbesBild == Vollbild;
     m.OPx = ganz ? 422 : 211;
     m.OPy = ganz ? 250 : 125;
 }
@@ -199,7 +199,7 @@ void Mandelbrot::Initialisierung() {
     const bool erstesMal = initIstdurchJa != 1;
     if (erstesMal) {
         speicherLeeren(*this);
-        g_halbesBild = 1;
+        g_halbesBild = ViertelLinksOben;
     }
 
     if (wahl_Gleichung == 0) {
@@ -219,8 +219,8 @@ void Mandelbrot::Initialisierung() {
     if (wahl_Gleichung > LetzteOhneZusatz) {
         InitGreater100();
     }
-    if (g_halbesBild > 1 && zahl_Matrix == MatrixEin) {
-        g_halbesBild = 1;
+    if (g_halbesBild > ViertelLinksOben && zahl_Matrix == MatrixEin) {
+        g_halbesBild = ViertelLinksOben;
     }
     g_PalettenZahl = palettenZahl(zahl_farbtab);
     g_Max_rgbFarben = static_cast<qint32>(palettenFarben(zahl_farbtab));

@@ -242,11 +242,11 @@ mehr Zyklen.)html")};
 
 constexpr Hilfetext Zwilling{QT_TRANSLATE_NOOP("UI", "Zum Zwillingsverfahren siehe auch %1"),
                              QT_TRANSLATE_NOOP("UI", R"html(<b>Ein erster Versuch</b><br>
-Ins Startbild der Mandelbrotmenge mit „Alle Glg. Zwilling 1 EIN“ (Menü „Zwillinge/Twins“), dann
-„Start!“. Mit den Vorgaben koppX&nbsp;=&nbsp;0.2 und koppY&nbsp;=&nbsp;0.1 zerfällt die Scheibe
-links, und die Knospen werden zu Dornen. Tippt man bei beiden 0.5 ein, wird nach „Start!“ der
-Hauptkörper zum Tropfen. Zwilling 4 hebt dann auch die Gleichheit von oben und unten auf. „Zwilling
-AUS“ bringt das alte Bild zurück.<br>
+Im Startbild der Mandelbrotmenge „Alle Glg. Zwilling 1 EIN“ wählen (Menü „Zwillinge/Twins“), dann
+„Start!“ drücken. Mit den Vorgaben koppX&nbsp;=&nbsp;0.2 und koppY&nbsp;=&nbsp;0.1 zerfällt die
+Scheibe links, und die Knospen werden zu Dornen. Tippt man bei beiden 0.5 ein, wird nach „Start!“
+der Hauptkörper zum Tropfen. Zwilling 4 hebt dann auch die Gleichheit von oben und unten auf.
+„Zwilling AUS“ bringt das alte Bild zurück.<br>
 <br>
 <b>Zwei Bahnen, die einander stören</b><br>
 Neben Z = x + i*y läuft nach derselben Gleichung ein Zwilling W = p + i*t. Beide beginnen am
@@ -313,19 +313,19 @@ und schon im Startbild läuft C&nbsp;=&nbsp;-1.9, ein Punkt der Menge, bis 1.71.
 Menge irrt der Weg oft lange umher, ehe er sich entscheidet.<br>
 <br>
 <b>Mehr oder weniger zeigen</b><br>
-&nbsp;&nbsp;&nbsp;„Linien dünn-dick“: dünne oder dicke Linien<br>
+&nbsp;&nbsp;&nbsp;„Linien dünn-dick/thin-thick“: dünne oder dicke Linien<br>
 &nbsp;&nbsp;&nbsp;„maximal 120“ bis „maximal 5“: weniger Punkte statt der vollen 256<br>
 &nbsp;&nbsp;&nbsp;„Alle Orbit anzeigen“: sammelt alle Wege, bis der Speicher gelöscht wird<br>
-&nbsp;&nbsp;&nbsp;„Orbit erst ab Iterat.(= ZOOM)“: überspringt den Anfang des Weges. Zuvor die Zahl,
-etwa 100, bei Zoom eintippen und „Start!“ drücken.<br>
+&nbsp;&nbsp;&nbsp;„Orbit erst ab Iterat.(= ZOOM) EIN“: überspringt den Anfang des Weges. Zuvor die
+Zahl, etwa 100, bei Zoom eintippen und „Start!“ drücken.<br>
 &nbsp;&nbsp;&nbsp;„Orbit-Start vom Bild-Mittelpunkt“: beginnt genau in der Bildmitte. So lässt sich
 ein Startpunkt auf alle Stellen genau eintippen und auch bei anderer Vergrößerung verfolgen.<br>
 <br>
 <b>Die Werte als Liste</b><br>
-Menü „Datei/File“: „Letzten Orbit als Liste in HTML-Seite speichern“ schreibt alle gezeigten Punkte
-mit sechzehn Stellen nach dem Komma und mit ihrer Lage im Bild in eine Datei. Sie heißt OrbitWirbel
-mit Version, Datum und Uhrzeit, endet auf .htm und liegt ohne Rückfrage in dem Ordner, in dem das
-Programm gestartet wurde. Darin lassen sich Zyklen Stelle für Stelle nachlesen.<br>
+Menü „Datei/File“: „Letzten Orbit als Liste in HTML-Seite speichern/save“ schreibt alle gezeigten
+Punkte mit sechzehn Stellen nach dem Komma und mit ihrer Lage im Bild in eine Datei. Sie heißt
+OrbitWirbel mit Version, Datum und Uhrzeit, endet auf .htm und liegt ohne Rückfrage in dem Ordner,
+in dem das Programm gestartet wurde. Darin lassen sich Zyklen Stelle für Stelle nachlesen.<br>
 <br>
 <b>Ausschalten</b><br>
 „Orbit AUS/STOP“. Auch ein Befehl, der den Ausschnitt ändert, schaltet den angeklickten Orbit ab;

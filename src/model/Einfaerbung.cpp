@@ -129,7 +129,7 @@ struct Farbregel {
 /// A mark below 0 is not drawn, but it hides the point all the same.
 quint16 markenfeld(qint32 marke) {
     return marke < 0 ? quint16{Unberuehrt}
-                     : static_cast<quint16>(ErsteMarke + kreuzreihe(static_cast<quint32>(marke)));
+                     : static_cast<quint16>(ErsteMarke + kreuzzeile(static_cast<quint32>(marke)));
 }
 
 Feldfarben feldfarben(Mandelbrot& menge, quint32 zelle) {
@@ -156,8 +156,8 @@ struct Zelle {
 };
 
 /// Draws one row of fields at (x, y). Pixels outside the image are skipped.
-void zeichneZeile(std::span<const quint16> felder, const Zelle& zelle, qint32 reihe, QImage& bild) {
-    const qint64 y = qint64{zelle.y} + reihe;
+void zeichneZeile(std::span<const quint16> felder, const Zelle& zelle, qint32 zeile, QImage& bild) {
+    const qint64 y = qint64{zelle.y} + zeile;
     if (zelle.x < 0 || zelle.x >= bild.width() || y < 0 || y >= bild.height()) {
         return;
     }
@@ -178,14 +178,14 @@ void faerbe(const Farbregel& regel, const Werte& werte, const Ganze& zaehler, co
     const int breite = std::clamp(groesse.width(), 0, static_cast<int>(werte[0].size()));
     const int hoehe = std::clamp(groesse.height(), 0, static_cast<int>(werte.size()) - 1);
     const std::span felder = std::span(puffer).first(static_cast<std::size_t>(breite));
-    for (qint32 reihe = 0; reihe < hoehe; ++reihe) {
-        const auto r = static_cast<std::size_t>(reihe) + 1;
+    for (qint32 zeile = 0; zeile < hoehe; ++zeile) {
+        const auto r = static_cast<std::size_t>(zeile) + 1;
         for (std::size_t x = 0; x < felder.size(); ++x) {
             const qint32 marke = marken != nullptr ? (*marken)[r][x] : 0;
             felder[x] = marke != 0 ? markenfeld(marke) : regel.feld(werte[r][x], zaehler[r][x]);
         }
         for (const Zelle& zelle : zellen) {
-            zeichneZeile(felder, zelle, reihe, bild);
+            zeichneZeile(felder, zelle, zeile, bild);
         }
     }
 }
@@ -204,17 +204,17 @@ void palettenstreifen(Mandelbrot& menge, const Bildlauf& lauf, QImage& bild) {
     if (links >= rechts) {
         return;
     }
-    for (qint32 reihe = 0; reihe < std::min(lauf.ZeilenKLGross, bild.height()); ++reihe) {
+    for (qint32 zeile = 0; zeile < std::min(lauf.ZeilenKLGross, bild.height()); ++zeile) {
         // Each row has the colour number of the row above it; meant.
-        const auto nummer = static_cast<quint32>(std::max(reihe - 1, 0));
-        QRgb* const zeile = reinterpret_cast<QRgb*>(bild.scanLine(reihe));
-        std::fill(zeile + links, zeile + rechts, tafel[index(nummer)]);
+        const auto nummer = static_cast<quint32>(std::max(zeile - 1, 0));
+        QRgb* const ziel = reinterpret_cast<QRgb*>(bild.scanLine(zeile));
+        std::fill(ziel + links, ziel + rechts, tafel[index(nummer)]);
     }
 }
 
 void einfaerben(Mandelbrot& menge, const Bildlauf& lauf, QImage& bild) {
     const Farbregel regel(menge);
-    const bool mitMarken = lauf.LinienRechnen || menge.g_halbesBild >= 1;
+    const bool mitMarken = lauf.LinienRechnen || menge.g_halbesBild > Vollbild;
     if (!lauf.Matrix) {
         const std::array zelle{Zelle{0, 0, feldfarben(menge, 0)}};
         faerbe(regel, menge.ImageDoubles, menge.ImageIntegers,

@@ -51,7 +51,7 @@ void abmessungen(Mandelbrot& menge, Bildlauf& lauf) {
                   lauf.ZeilenKLGross / 2,
                   pX,
                   pY};
-    const bool halb = menge.g_halbesBild > 0;
+    const bool halb = menge.g_halbesBild > Vollbild;
     lauf.Spalten = halb ? lauf.SpaltenKLGross / 2 : lauf.SpaltenKLGross;
     lauf.Zeilen = halb ? lauf.ZeilenKLGross / 2 : lauf.ZeilenKLGross;
     lauf.SpaltenKLHalbe = vorschau ? pX / 2 : lauf.Spalten / 2;

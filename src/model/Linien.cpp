@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-qint32 Linien::Zaehler::naechster() {
+qint32 Linien::Wechselmarke::naechste() {
     const qint32 jetzt = wert;
     wert = wert % 2 != 0 ? wert + 1 : wert - 1;
     return jetzt;
@@ -36,12 +36,12 @@ bool Linien::trifft(const Raster& raster, double k, double wert) const {
 void Linien::nullgitterMarken(double x, double y, qint32& marke) {
     for (const double k : {std::floor(x / abstand), std::floor(x / abstand) + 1.0}) {
         if (trifft(nullX, k, x)) {
-            marke = nullgitter.senkrecht.naechster();
+            marke = nullgitter.senkrecht.naechste();
         }
     }
     for (const double k : {std::floor(y / abstand), std::floor(y / abstand) + 1.0}) {
         if (trifft(nullY, k, y)) {
-            marke = nullgitter.waagrecht.naechster();
+            marke = nullgitter.waagrecht.naechste();
         }
     }
 }
@@ -62,10 +62,10 @@ void Linien::mittelgitterMarken(double x, double y, qint32& marke) {
             continue;
         }
         if (trifft(mitteX, k, x)) {
-            marke = mittelgitter.senkrecht.naechster();
+            marke = mittelgitter.senkrecht.naechste();
         }
         if (trifft(mitteY, k, y)) {
-            marke = mittelgitter.waagrecht.naechster();
+            marke = mittelgitter.waagrecht.naechste();
         }
     }
 }
@@ -85,18 +85,18 @@ qint32 Linien::marke(double x, double y) {
     }
     if (m.g_MittelkreuzJa == 1) {
         if (m.MP_x + schritt >= x && x >= m.MP_x - schritt) {
-            marke = mittelkreuz.senkrecht.naechster();
+            marke = mittelkreuz.senkrecht.naechste();
         }
         if (m.MP_y + schritt >= y && y >= m.MP_y - schritt) {
-            marke = mittelkreuz.waagrecht.naechster();
+            marke = mittelkreuz.waagrecht.naechste();
         }
     }
     if (m.g_NullkreuzJa == 1) {
         if (std::abs(x) <= schritt) {
-            marke = nullkreuz.senkrecht.naechster();
+            marke = nullkreuz.senkrecht.naechste();
         }
         if (std::abs(y) <= schritt) {
-            marke = nullkreuz.waagrecht.naechster();
+            marke = nullkreuz.waagrecht.naechste();
         }
     }
     return marke;

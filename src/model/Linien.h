@@ -5,8 +5,8 @@
 #include <span>
 
 /// The dashed overlay lines of one picture: two grids, centre cross and zero cross. A marked pixel
-/// receives the counter of its line family and direction, which then flips to the other value of
-/// its pair; the counters run on across rows, so the lines come out dashed in two colours.
+/// receives the mark of its line family and direction, which then flips to the other value of its
+/// pair; this runs on across rows, so the lines come out dashed in two colours.
 class Linien {
   public:
     /// Takes switches, grid spacing and picture from the model. A spacing that is not positive and
@@ -17,14 +17,14 @@ class Linien {
     qint32 marke(double x, double y);
 
   private:
-    struct Zaehler {
+    struct Wechselmarke {
         qint32 wert; ///< odd first value of the pair
-        qint32 naechster();
+        qint32 naechste();
     };
 
-    /// Vertical and horizontal counter of one line family.
+    /// Vertical and horizontal mark of one line family.
     struct Paar {
-        Zaehler senkrecht, waagrecht;
+        Wechselmarke senkrecht, waagrecht;
     };
 
     /// The multiples k * abstand + ursprung with von <= k < bis.

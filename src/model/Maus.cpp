@@ -27,13 +27,13 @@ Klick klickOrten(const Mandelbrot& m, const QPoint& stelle) {
         return k;
     }
     k.verhaeltnis = static_cast<double>(k.Zeilen) / k.Spalten;
-    if (m.g_halbesBild < 1 || m.g_halbesBild > 4) {
+    if (!istViertel(m.g_halbesBild)) {
         return k;
     }
     k.Spalten /= 2;
     k.Zeilen /= 2;
-    const bool rechts = m.g_halbesBild == 2 || m.g_halbesBild == 4;
-    const bool unten = m.g_halbesBild >= 3;
+    const bool rechts = m.g_halbesBild == ViertelRechtsOben || m.g_halbesBild == ViertelRechtsUnten;
+    const bool unten = m.g_halbesBild >= ViertelLinksUnten;
     k.gogo = (rechts ? k.x >= k.Spalten : k.x <= k.Spalten) &&
              (unten ? k.y >= k.Zeilen : k.y <= k.Zeilen) && k.Spalten > 0 && k.Zeilen > 0;
     k.x -= rechts ? k.Spalten : 0;
@@ -107,7 +107,7 @@ void Mandelbrot::mousePressEvent(QMouseEvent* event) {
         OPy = klick.y;
     } else if (zahl_Matrix != MatrixEin) {
         zoomen(*this, klick);
-    } else if (g_halbesBild < 2) {
+    } else if (g_halbesBild <= ViertelLinksOben) {
         zelleWaehlen(*this, klick);
     }
     Q_EMIT WerteAktualisierenSignal();

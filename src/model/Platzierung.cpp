@@ -27,25 +27,25 @@ constexpr qint64 lage(Grenze grenze, qint64 voll, qint64 halb, qint64 vorschau) 
 }
 
 struct Platz {
-    qint32 modus;
+    Bildmodus modus;
     Grenze x0, x1, y0, y1;
 };
 
 using enum Grenze;
 constexpr std::array<Platz, 13> Plaetze{{
-    {0, Anfang, Ende, Anfang, Ende},                          //
-    {1, Anfang, Mitte, Anfang, Mitte},                        //
-    {2, Mitte, Ende, Anfang, Mitte},                          //
-    {3, Anfang, Mitte, Mitte, Ende},                          //
-    {4, Mitte, Ende, Mitte, Ende},                            //
-    {10, EndeMinusVorschau, Ende, Anfang, Vorschau},          //
-    {11, Anfang, Vorschau, Anfang, Vorschau},                 //
-    {12, Mitte, MittePlusVorschau, Anfang, Vorschau},         //
-    {13, Anfang, Vorschau, Mitte, MittePlusVorschau},         //
-    {14, Mitte, MittePlusVorschau, Mitte, MittePlusVorschau}, //
-    {100, Anfang, Vorschau, Anfang, Vorschau},                //
-    {300, Anfang, Vorschau, EndeMinusVorschau, Ende},         //
-    {400, EndeMinusVorschau, Ende, EndeMinusVorschau, Ende},  //
+    {Vollbild, Anfang, Ende, Anfang, Ende},                                           //
+    {ViertelLinksOben, Anfang, Mitte, Anfang, Mitte},                                 //
+    {ViertelRechtsOben, Mitte, Ende, Anfang, Mitte},                                  //
+    {ViertelLinksUnten, Anfang, Mitte, Mitte, Ende},                                  //
+    {ViertelRechtsUnten, Mitte, Ende, Mitte, Ende},                                   //
+    {VollvorschauRechtsOben, EndeMinusVorschau, Ende, Anfang, Vorschau},              //
+    {ViertelvorschauLinksOben, Anfang, Vorschau, Anfang, Vorschau},                   //
+    {ViertelvorschauRechtsOben, Mitte, MittePlusVorschau, Anfang, Vorschau},          //
+    {ViertelvorschauLinksUnten, Anfang, Vorschau, Mitte, MittePlusVorschau},          //
+    {ViertelvorschauRechtsUnten, Mitte, MittePlusVorschau, Mitte, MittePlusVorschau}, //
+    {VollvorschauLinksOben, Anfang, Vorschau, Anfang, Vorschau},                      //
+    {VollvorschauLinksUnten, Anfang, Vorschau, EndeMinusVorschau, Ende},              //
+    {VollvorschauRechtsUnten, EndeMinusVorschau, Ende, EndeMinusVorschau, Ende},      //
 }};
 
 } // namespace
@@ -53,7 +53,8 @@ constexpr std::array<Platz, 13> Plaetze{{
 Rechteck platzierung(qint32 halbesBild, const Bildmasse& masse) {
     const auto* const platz = std::find_if(Plaetze.begin(), Plaetze.end(),
                                            [=](const Platz& p) { return p.modus == halbesBild; });
-    Rechteck r{0, halbesBild > 0 ? masse.w : masse.W, 0, halbesBild > 0 ? masse.h : masse.H};
+    Rechteck r{0, halbesBild > Vollbild ? masse.w : masse.W, 0,
+               halbesBild > Vollbild ? masse.h : masse.H};
     if (platz != Plaetze.end()) {
         r = {lage(platz->x0, masse.W, masse.w, masse.pX),
              lage(platz->x1, masse.W, masse.w, masse.pX),

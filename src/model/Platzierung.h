@@ -16,22 +16,21 @@ struct Rechteck {
     bool operator==(const Rechteck&) const = default;
 };
 
-/// A picture mode above 9 is a preview.
-[[nodiscard]] constexpr bool istVorschau(qint32 halbesBild) { return halbesBild > 9; }
-
 /// Picture mode after the request is taken up: a computation turns a preview into its picture,
 /// VorschauRechnen turns a full or quarter picture into the preview at the same place.
 [[nodiscard]] constexpr qint32 modusNachAnforderung(qint32 halbesBild, qint32 rechnenJa) {
-    if (halbesBild > 99) {
-        return rechnenJa == Rechnen ? 0 : halbesBild;
+    if (halbesBild >= VollvorschauLinksOben) {
+        return rechnenJa == Rechnen ? qint32{Vollbild} : halbesBild;
     }
     if (rechnenJa == Rechnen && istVorschau(halbesBild)) {
-        return halbesBild % 10;
+        return halbesBild % VorschauAbstand;
     }
-    return rechnenJa == VorschauRechnen && halbesBild < 5 ? halbesBild + 10 : halbesBild;
+    return rechnenJa == VorschauRechnen && halbesBild <= ViertelRechtsUnten
+               ? halbesBild + VorschauAbstand
+               : halbesBild;
 }
 
-/// Where the picture of a mode is placed, cut to the whole picture: full 0, quarters 1 to 4,
-/// previews 10 to 14, 100, 300, 400. The whole plane rectangle is drawn into it. An unknown mode
-/// gets the halved size top left when it is positive, else the full picture.
+/// Where the picture of a Bildmodus is placed, cut to the whole picture. The whole plane rectangle
+/// is drawn into it. Any other number gets the halved size top left when it is positive, else the
+/// full picture.
 [[nodiscard]] Rechteck platzierung(qint32 halbesBild, const Bildmasse& masse);

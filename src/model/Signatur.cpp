@@ -1,4 +1,4 @@
-#include "model/Signatur.h"
+#include "Signatur.h"
 
 #include "Mandelbrot.h"
 

@@ -63,7 +63,7 @@ void Mandelbrot::DatenSichern() {
 void Mandelbrot::DatenTeilbildLaden() {
     const auto& ganze = ImageIntegers.front();
     const auto beginn = platzBeginn(g_halbesBild);
-    if (g_halbesBild > 0 && beginn && ganze[*beginn + EintragViertel] == g_halbesBild) {
+    if (g_halbesBild > Vollbild && beginn && ganze[*beginn + EintragViertel] == g_halbesBild) {
         laden(*this, {ganze, ImageDoubles.front()});
     }
 }

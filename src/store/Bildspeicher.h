@@ -9,7 +9,6 @@
 /// 13 are used; the history arrays hold copies of that row's first 300 entries.
 namespace bildspeicher {
 
-inline constexpr qint32 Plaetze = 4; ///< slots: full picture or quarter 1, quarters 2, 3, 4
 inline constexpr std::size_t PlatzLaenge = 20; ///< entries from one slot to the next
 
 /// Entries of the integer part. The second, the quarter at saving time, marks the slot as valid
@@ -38,13 +37,15 @@ inline constexpr std::array ReelleFelder{&Mandelbrot::bilddatenDouble,
                                          &Mandelbrot::g_Bildverhaeltnis,
                                          &Mandelbrot::g_Gitterabstand};
 
-/// First entry of the slot of a quarter word (g_halbesBild): up to 1 the first slot, 2 to 4 the
-/// next ones; previews and every other value have none.
+/// First entry of the slot of a picture mode: the full picture shares the first slot with the first
+/// quarter, the other quarters have one each; previews and every greater value have none.
 [[nodiscard]] constexpr std::optional<std::size_t> platzBeginn(qint32 halbesBild) noexcept {
-    if (halbesBild > Plaetze) {
+    if (halbesBild > ViertelRechtsUnten) {
         return std::nullopt;
     }
-    return halbesBild < 2 ? 0 : static_cast<std::size_t>(halbesBild - 1) * PlatzLaenge;
+    return halbesBild < ViertelRechtsOben
+               ? 0
+               : static_cast<std::size_t>(halbesBild - ViertelLinksOben) * PlatzLaenge;
 }
 
 } // namespace bildspeicher

@@ -38,21 +38,19 @@ void lesen(UI& ui, std::span<const Parameter* const> folge) {
     }
 }
 
-constexpr int KleinstesVorschaubild = 10; ///< g_halbesBild: position + 10, or 10, 100, 300, 400
-constexpr int AnzahlViertel = 4;
 constexpr int UeblicherExponent = 10; ///< values that the title does not mention
 constexpr int UeblicheZyklen = 7;
 
 /// How the four previews in full size name themselves.
-struct Vollbildvorschau {
-    int halbesBild;
+struct Vollvorschau {
+    Bildmodus halbesBild;
     const char* text;
 };
-constexpr std::array<Vollbildvorschau, 4> Vollbildvorschauen{{
-    {10, " Vorschau Vollbild"},
-    {400, " Vorschau Vollb. re/u"},
-    {100, " Vorschau Vollb. li/o"},
-    {300, " Vorschau Vollb. li/u"},
+constexpr std::array<Vollvorschau, 4> Vollvorschauen{{
+    {VollvorschauRechtsOben, " Vorschau Vollbild"},
+    {VollvorschauRechtsUnten, " Vorschau Vollb. re/u"},
+    {VollvorschauLinksOben, " Vorschau Vollb. li/o"},
+    {VollvorschauLinksUnten, " Vorschau Vollb. li/u"},
 }};
 
 /// Equation, orbit, power and cycles: the first part of the title.
@@ -84,24 +82,24 @@ QString titelGleichung(const Mandelbrot& m) {
 QString titelBildlage(const Mandelbrot& m) {
     QString text;
     const int lage = m.g_halbesBild;
-    if (lage > 0 && lage <= AnzahlViertel) {
+    if (istViertel(lage)) {
         text += UI::tr(" 1/4 Bild Nr.") + QString::number(lage);
     }
-    if (lage >= KleinstesVorschaubild) {
-        text += UI::tr(" Vorschau Nr.") + QString::number(lage % 10);
+    if (istVorschau(lage)) {
+        text += UI::tr(" Vorschau Nr.") + QString::number(lage % VorschauAbstand);
     }
-    for (const auto& vorschau : Vollbildvorschauen) {
+    for (const auto& vorschau : Vollvorschauen) {
         if (vorschau.halbesBild == lage) {
             text += UI::tr(vorschau.text);
         }
     }
-    if (lage > 0 && m.g_VorschauAusJa == 1) {
+    if (lage > Vollbild && m.g_VorschauAusJa == 1) {
         text += UI::tr(" Vorschau Aus");
     }
-    if (lage == 1) {
+    if (lage == ViertelLinksOben) {
         text += UI::tr(" (Menue Groesse)");
     }
-    if (lage > 1) {
+    if (lage > ViertelLinksOben) {
         text += ",";
     }
     return text;
@@ -141,8 +139,8 @@ void UI::WerteColorAktualisierenSlot() { zeigen(*this, Farbwerte); }
 
 void UI::NeueBerechnungSlot() {
     // Nothing else here touches the request: an unchanged picture is only coloured anew.
-    if (Menge->g_halbesBild > AnzahlViertel && Menge->g_RechnenJa != RechnenMitOrbit) {
-        Menge->g_halbesBild %= 10;
+    if (Menge->g_halbesBild > ViertelRechtsUnten && Menge->g_RechnenJa != RechnenMitOrbit) {
+        Menge->g_halbesBild %= VorschauAbstand;
         Menge->g_RechnenJa = Rechnen;
     }
     FeldLesen();

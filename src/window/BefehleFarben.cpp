@@ -39,8 +39,8 @@ void farbtabPlus(UI& f, int m, const Texte& texte) {
 }
 
 void matrix(UI& f, void (Mandelbrot::*operation)()) {
-    if (f.Menge->g_halbesBild > 1) {
-        f.Menge->g_halbesBild = 1;
+    if (f.Menge->g_halbesBild > ViertelLinksOben) {
+        f.Menge->g_halbesBild = ViertelLinksOben;
     }
     (f.Menge->*operation)();
     f.UI_zahlMatrix->setValue(f.Menge->get_zahl_Matrix());

@@ -15,16 +15,16 @@ qint32 doppelt(qint32 pixel) {
         std::clamp<qint64>(qint64{pixel} * 2, Grenzen::min(), Grenzen::max()));
 }
 
-void viertel(UI& f, qint32 nummer, Anforderung anforderung) {
-    f.Menge->g_halbesBild = nummer;
+void viertel(UI& f, Bildmodus modus, Anforderung anforderung) {
+    f.Menge->g_halbesBild = modus;
     f.Menge->g_RechnenJa = anforderung;
     f.Menge->DatenTeilbildLaden();
     f.WerteAktualisierenSlot();
     f.zeichnenUndTitel();
 }
 
-void vorschau(UI& f, qint32 bild) {
-    f.Menge->g_halbesBild = bild;
+void vorschau(UI& f, Bildmodus modus) {
+    f.Menge->g_halbesBild = modus;
     f.Menge->g_RechnenJa = VorschauRechnen;
     f.zeichnenUndTitel();
 }
@@ -74,34 +74,34 @@ void UI::NeuRechnenJaSlot() {
 
 // Only quarter 1 takes the orbit's start pixel along.
 void UI::GanzesBildSlot() {
-    if (Menge->g_halbesBild == 1) {
+    if (Menge->g_halbesBild == ViertelLinksOben) {
         Menge->OPx = doppelt(Menge->OPx);
         Menge->OPy = doppelt(Menge->OPy);
     }
-    Menge->g_halbesBild = 0;
+    Menge->g_halbesBild = Vollbild;
     Menge->g_RechnenJa = Rechnen;
     zeichnenUndTitel();
 }
 
 void UI::PixelXYDurch2Pos1Slot() {
-    if (Menge->g_halbesBild == 0) {
+    if (Menge->g_halbesBild == Vollbild) {
         Menge->OPx /= 2;
         Menge->OPy /= 2;
     }
-    viertel(*this, 1, RechnenMitOrbit);
+    viertel(*this, ViertelLinksOben, RechnenMitOrbit);
 }
-void UI::PixelXYDurch2Pos2Slot() { viertel(*this, 2, Rechnen); }
-void UI::PixelXYDurch2Pos3Slot() { viertel(*this, 3, Rechnen); }
-void UI::PixelXYDurch2Pos4Slot() { viertel(*this, 4, Rechnen); }
+void UI::PixelXYDurch2Pos2Slot() { viertel(*this, ViertelRechtsOben, Rechnen); }
+void UI::PixelXYDurch2Pos3Slot() { viertel(*this, ViertelLinksUnten, Rechnen); }
+void UI::PixelXYDurch2Pos4Slot() { viertel(*this, ViertelRechtsUnten, Rechnen); }
 
-void UI::VorschauPos1Slot() { vorschau(*this, 11); }
-void UI::VorschauPos2Slot() { vorschau(*this, 12); }
-void UI::VorschauPos3Slot() { vorschau(*this, 13); }
-void UI::VorschauPos4Slot() { vorschau(*this, 14); }
-void UI::VorschauVollbildSlot() { vorschau(*this, 10); }
-void UI::VorschauVollbild1Slot() { vorschau(*this, 100); }
-void UI::VorschauVollbild3Slot() { vorschau(*this, 300); }
-void UI::VorschauVollbild4Slot() { vorschau(*this, 400); }
+void UI::VorschauPos1Slot() { vorschau(*this, ViertelvorschauLinksOben); }
+void UI::VorschauPos2Slot() { vorschau(*this, ViertelvorschauRechtsOben); }
+void UI::VorschauPos3Slot() { vorschau(*this, ViertelvorschauLinksUnten); }
+void UI::VorschauPos4Slot() { vorschau(*this, ViertelvorschauRechtsUnten); }
+void UI::VorschauVollbildSlot() { vorschau(*this, VollvorschauRechtsOben); }
+void UI::VorschauVollbild1Slot() { vorschau(*this, VollvorschauLinksOben); }
+void UI::VorschauVollbild3Slot() { vorschau(*this, VollvorschauLinksUnten); }
+void UI::VorschauVollbild4Slot() { vorschau(*this, VollvorschauRechtsUnten); }
 
 void UI::VorschauAusSlot() { vorschauAus(*this, 1); }
 void UI::VorschauAnSlot() { vorschauAus(*this, 0); }

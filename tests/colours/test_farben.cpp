@@ -18,13 +18,13 @@ Zahlen liste(const QString& text) {
 qint32 ganz(double wert) { return static_cast<qint32>(wert); }
 quint32 natuerlich(double wert) { return static_cast<quint32>(wert); }
 
-Zahlen ausReihe(std::span<const quint8> palette, double reihe) {
-    const auto i = 3 * static_cast<std::size_t>(reihe);
+Zahlen ausZeile(std::span<const quint8> palette, double zeile) {
+    const auto i = 3 * static_cast<std::size_t>(zeile);
     return {double(palette[i]), double(palette[i + 1]), double(palette[i + 2])};
 }
 Zahlen rgb(const QColor& f) { return {double(f.red()), double(f.green()), double(f.blue())}; }
 Zahlen variante(double code, double platz) {
-    return ausReihe(farbvariante({10, 20, 40}, static_cast<qint64>(code), ganz(platz)), 0);
+    return ausZeile(farbvariante({10, 20, 40}, static_cast<qint64>(code), ganz(platz)), 0);
 }
 
 void baue48(M& m, double art, const Zahlen& farben) {
@@ -69,10 +69,10 @@ const std::map<QString, Zahlen (*)(M&, const Zahlen&)> Tafel{
     {"palette",
      [](M& m, const Zahlen& a) {
          baue48(m, a[0], a.mid(2));
-         return ausReihe(m.Palette48, a[1]);
+         return ausZeile(m.Palette48, a[1]);
      }},
-    {"spektrum", [](M& m, const Zahlen& a) { return ausReihe(m.colormapWave, a[0]); }},
-    {"fest", [](M&, const Zahlen& a) { return ausReihe(festpalette(), a[0]); }},
+    {"spektrum", [](M& m, const Zahlen& a) { return ausZeile(m.colormapWave, a[0]); }},
+    {"fest", [](M&, const Zahlen& a) { return ausZeile(festpalette(), a[0]); }},
     {"erste",
      [](M&, const Zahlen& a) {
          return variante(11, a[0]) + variante(21, a[0]) + variante(31, a[0]) + variante(41, a[0]);

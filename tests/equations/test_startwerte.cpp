@@ -73,7 +73,7 @@ class TestStartwerte : public QObject {
                 *wert = 1;
             }
             m->initIstdurchJa = 1 - erstesMal;
-            m->g_halbesBild = 2;
+            m->g_halbesBild = ViertelRechtsOben;
             m->Initialisierung();
             for (const double* wert : reelle) {
                 QCOMPARE(*wert, erstesMal == 1 ? 0.0 : 1.0);
@@ -81,7 +81,7 @@ class TestStartwerte : public QObject {
             for (const qint32* wert : ganze) {
                 QCOMPARE(*wert, 1 - erstesMal);
             }
-            QCOMPARE(m->g_halbesBild, 2 - erstesMal);
+            QCOMPARE(m->g_halbesBild, erstesMal ? ViertelLinksOben : ViertelRechtsOben);
             QCOMPARE(m->initIstdurchJa, 1);
         }
     }

@@ -249,7 +249,7 @@ class TestDateien : public QObject {
                               "Bilddaten (*.fraktal)", "Alle Dateien (*.*)", "open"}));
         // The values reach the model through the panel, as with "Start!".
         QCOMPARE(fenster.Menge->wahl_Gleichung, 101);
-        QCOMPARE(fenster.Menge->g_halbesBild, 12);
+        QCOMPARE(fenster.Menge->g_halbesBild, ViertelvorschauRechtsOben);
         QCOMPARE(fenster.Menge->MP_x, werte[Ganze]);
     }
 

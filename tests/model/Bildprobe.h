@@ -8,7 +8,7 @@ inline std::unique_ptr<Mandelbrot> bildprobe(int breite, int hoehe) {
     auto m = std::make_unique<Mandelbrot>();
     m->resize(breite + 20, hoehe);
     m->show();
-    m->g_halbesBild = 0;
+    m->g_halbesBild = Vollbild;
     m->Max_Iterationen = 50;
     return m;
 }

@@ -10,8 +10,8 @@ const QMap<QString, QRgb> Feste{
 
 /// Colour of the row that a colour number falls on in the test's palette.
 QRgb farbeVon(qint64 nummer) {
-    const auto reihe = static_cast<int>(((nummer % 512) + 512) % 512);
-    return qRgb(reihe % 256, reihe / 256, 77);
+    const auto zeile = static_cast<int>(((nummer % 512) + 512) % 512);
+    return qRgb(zeile % 256, zeile / 256, 77);
 }
 
 } // namespace

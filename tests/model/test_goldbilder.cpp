@@ -22,7 +22,7 @@ Zaehler startbild(qint32 gleichung) {
     const auto m = bildprobe(Breite, Hoehe);
     m->wahl_Gleichung = gleichung;
     m->Initialisierung();
-    m->g_halbesBild = 0;
+    m->g_halbesBild = Vollbild;
     malen(*m);
     Zaehler werte;
     for (std::size_t i = 0; i < Breite * Hoehe; ++i) {

@@ -60,7 +60,7 @@ class TestBildspeicher : public QObject {
     void verlauf() {
         QFETCH(QStringList, spalten);
         m = std::make_unique<M>();
-        m->g_halbesBild = 1;
+        m->g_halbesBild = ViertelLinksOben;
         const QStringList schritte = spalten[0].split(' ');
         for (int i = 0; i < schritte.size(); ++i) {
             const QString schritt = schritte[i];
