@@ -42,16 +42,16 @@ class TestStartwerte : public QObject {
 
     // The first time all pictures and lists are emptied, later none.
     void ersterAufruf() {
-        double* const reelle[] = {&m->ImageDoubles[1200][1199],
-                                  &m->ImageViertelDoubles[300][299],
-                                  &m->UnDo0Doubles[299],
-                                  &m->UnDo1Doubles[0],
-                                  &m->UnDo2Doubles[0],
-                                  &m->UnDo3Doubles[0],
-                                  &m->UnDo4Doubles[0],
-                                  &m->OrbitX[258],
-                                  &m->OrbitY[258]};
-        qint32* const ganze[] = {
+        const std::vector<double*> reelle{&m->ImageDoubles[1200][1199],
+                                          &m->ImageViertelDoubles[300][299],
+                                          &m->UnDo0Doubles[299],
+                                          &m->UnDo1Doubles[0],
+                                          &m->UnDo2Doubles[0],
+                                          &m->UnDo3Doubles[0],
+                                          &m->UnDo4Doubles[0],
+                                          &m->OrbitX[258],
+                                          &m->OrbitY[258]};
+        const std::vector<qint32*> ganze{
             &m->ImageIntegers[0][0],        &m->ImageGitterIntegers[1][0],
             &m->ImageViertelIntegers[0][5], &m->ImageViertelGitterIntegers[7][0],
             &m->UnDo0Integers[299],         &m->UnDo4Integers[0]};

@@ -283,19 +283,16 @@ class TestDateien : public QObject {
     }
 
     void fehler_data() {
-        QTest::addColumn<bool>("laden");
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<bool>("wirdOrdner"); // while the dialog is open
-        QTest::newRow("load: gone") << true << "bild.x" << false;
-        QTest::newRow("load: becomes a folder") << true << "bild.x" << true;
-        QTest::newRow("save: no such folder") << false << "fehlt/bild.x" << false;
-        QTest::newRow("save: becomes a folder") << false << "bild.x" << true;
+        QTest::addColumn<QStringList>("worte"); // name; what becomes of it while the dialog is open
+        for (const QString zeile : {"load bild.x gone", "load bild.x folder",
+                                    "save fehlt/bild.x no-folder", "save bild.x folder"}) {
+            QTest::newRow(qPrintable(zeile)) << zeile.split(' ');
+        }
     }
     void fehler() {
-        QFETCH(bool, laden);
-        QFETCH(QString, name);
-        QFETCH(bool, wirdOrdner);
-        name = pfad(name);
+        QFETCH(QStringList, worte);
+        const bool laden = worte[0] == "load", wirdOrdner = worte[2] == "folder";
+        const QString name = pfad(worte[1]);
         QList<void (UI::*)()> wege{&UI::Koordinaten_SpeichernSlot, &UI::Bild_SpeichernSlot};
         if (laden) {
             wege = {&UI::Koordinaten_LadenSlot};

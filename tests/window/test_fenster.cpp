@@ -245,21 +245,16 @@ class TestFenster : public QObject {
     }
 
     /// Qt's texts follow the language; the "OK" of boxes and the direction do not.
-    void qtTexte_data() {
-        QTest::addColumn<QString>("speichern");
-        QTest::newRow("de_DE") << "Speichern";
-        QTest::newRow("es_ES") << "Guardar";
-        QTest::newRow("ar_EG") << "احفظ";
-        QTest::newRow("xx") << "Save";
-    }
     void qtTexte() {
-        qtTexteUebersetzen(*qApp, QLocale(QTest::currentDataTag()));
-        const QDialogButtonBox tasten(QDialogButtonBox::Ok | QDialogButtonBox::Save);
-        QFETCH(QString, speichern);
-        QCOMPARE(tasten.button(QDialogButtonBox::Save)->text().remove('&'), speichern);
-        QCOMPARE(tasten.button(QDialogButtonBox::Ok)->text().remove('&'), "OK");
-        QCOMPARE(QGuiApplication::layoutDirection(), Qt::LeftToRight);
-        qDeleteAll(qApp->findChildren<QTranslator*>());
+        for (const QString worte : {"de_DE Speichern", "es_ES Guardar", "ar_EG احفظ", "xx Save"}) {
+            qtTexteUebersetzen(*qApp, QLocale(worte.section(' ', 0, 0)));
+            const QDialogButtonBox tasten(QDialogButtonBox::Ok | QDialogButtonBox::Save);
+            QCOMPARE(tasten.button(QDialogButtonBox::Save)->text().remove('&'),
+                     worte.section(' ', 1));
+            QCOMPARE(tasten.button(QDialogButtonBox::Ok)->text().remove('&'), "OK");
+            QCOMPARE(QGuiApplication::layoutDirection(), Qt::LeftToRight);
+            qDeleteAll(qApp->findChildren<QTranslator*>());
+        }
     }
 
     /// The wait cursor comes during a long picture only, and goes with it.
