@@ -1,13 +1,33 @@
-#include "equations/Startwerte.h"
-
 #include "colours/Farbwahl.h"
 #include "colours/Palettenwahl.h"
 #include "equations/Gleichungen.h"
 #include "Mandelbrot.h"
 
 #include <algorithm>
+#include <optional>
+#include <span>
 
 namespace {
+
+/// Start settings that a group of equations shares, named like the fields of Mandelbrot (plane
+/// units, iterations). An empty field leaves the model's as an earlier row set it.
+struct Startwerte {
+    std::optional<double> MP_x{}, MP_y{}, Br_x{};
+    std::optional<qint32> Max_Iterationen{}, glg_Abbruch{};
+    std::optional<double> wert_Abbruch{}, Koppl_x{}, Koppl_y{};
+    std::optional<double> div_Factor{}, konv_Factor{}, it_Factor{};
+    std::optional<qint32> rechen_VarianteDiv{}, rechen_VarianteKonv{}, color_Offset{};
+    std::optional<qint32> zahl_farbtab{};
+    std::optional<qint32> zahl_Matrix{}; ///< not taken while the matrix view is on
+    std::optional<qint32> g_ZwillingJa{}, g_JuliaJa{};
+    std::optional<double> CJ_x{}, CJ_y{};
+};
+
+/// One row of a table of start settings.
+struct Startzeile {
+    bool (*gilt)(qint32 nummer); ///< whether the row applies to a plain equation number
+    Startwerte werte{};
+};
 
 constexpr qint32 LetzteOhneZusatz = 106; ///< equations above it get the second table
 
@@ -40,6 +60,7 @@ constexpr Startwerte Allgemein{.MP_x = -0.5,
 // The irregularities between the families, also values beyond a range as the variant 44, are meant.
 constexpr std::nullopt_t o = std::nullopt; // the field stays as it was
 
+// A later row wins.
 constexpr auto Tabelle = std::to_array<Startzeile>({
     {[](qint32 n) { return familie(n) == 5; },
      {-0.5, 0.5, 6.0,  256, 4,  400.0, 0.38, 0.38,
@@ -60,6 +81,7 @@ constexpr auto Tabelle = std::to_array<Startzeile>({
       1.0, 10.0, 1.0,  2, 6, 344,  6,  11,  0, 1,  1.0, 1.0}},
 });
 
+// For the equations above 106, applied after the first table.
 constexpr auto TabelleGreater100 = std::to_array<Startzeile>({
     {[](qint32 n) { return familie(n) == 7 || familie(n) == 8; },
      {0.0, 0.0, 4.0,  100, 0,  1e8, 0.01, 0.01,
@@ -187,9 +209,6 @@ void schalterGrundstellung(Mandelbrot& m) {
 }
 
 } // namespace
-
-std::span<const Startzeile> startzeilen() noexcept { return Tabelle; }
-std::span<const Startzeile> startzeilenGreater100() noexcept { return TabelleGreater100; }
 
 void Mandelbrot::Initialisierung() {
     set_wahl_Gleichung(wahl_Gleichung); // the tables know plain numbers only

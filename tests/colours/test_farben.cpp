@@ -1,4 +1,4 @@
-// Palettes, colour lookup and palette commands.
+// Palettes and colour lookup.
 
 #include "colours/Farbwahl.h"
 #include "Texttabelle.h"
@@ -43,25 +43,11 @@ Zahlen farbe(M& m, const Zahlen& a) {
     return ergebnis + Zahlen{tafel[indexregel(m)(natuerlich(a[1]))] == f.rgba() ? 1.0 : 0.0};
 }
 
-template <void (M::*befehl)()>
-Zahlen nach(M& m, const Zahlen& a) {
+Zahlen laden(M& m, const Zahlen& a) {
     setze(m, QString("zahl_farbtab=%1 g_RechnenJa=3 wahlPalette48=9").arg(a[0]));
-    (m.*befehl)();
+    m.FarbtabelleWaveLaden();
     return {double(m.zahl_farbtab), double(m.g_RechnenJa), double(m.wahlPalette48),
             m.g_PalettenZahl.toDouble()};
-}
-
-Zahlen schritt(M& m, const Zahlen& a) {
-    m.zahl_farbtab = ganz(a[0]);
-    m.zahl_farbtabPlusM(ganz(a[1]));
-    return {double(m.zahl_farbtab), m.g_PalettenZahl.toDouble()};
-}
-
-Zahlen versatz(M& m, const Zahlen& a) {
-    m.g_Max_rgbFarben = 512;
-    m.color_OffsetSlider(ganz(a[0]));
-    m.color_OffsetPlusM(ganz(a[1]));
-    return {double(m.color_Offset)};
 }
 
 /// What the table's first column names.
@@ -84,13 +70,7 @@ const std::map<QString, Zahlen (*)(M&, const Zahlen&)> Tafel{
      }},
     {"farbe", farbe},
     {"kreuz", [](M& m, const Zahlen& a) { return rgb(m.FarbeKreuze(natuerlich(a[0]))); }},
-    {"drei", nach<&M::Farbtabelle3Farben>},
-    {"sechs", nach<&M::Farbtabelle6Farben>},
-    {"laden", nach<&M::FarbtabelleWaveLaden>},
-    {"spektral", nach<&M::FarbtabelleWaveAn>},
-    {"feld", nach<&M::TabelleArray>},
-    {"schritt", schritt},
-    {"versatz", versatz}};
+    {"laden", laden}};
 
 } // namespace
 

@@ -7,8 +7,6 @@
 #include <algorithm>
 #include <random>
 
-#include <QCryptographicHash>
-
 namespace {
 
 constexpr qint32 Kleinste = std::numeric_limits<qint32>::min();
@@ -65,19 +63,6 @@ class TestKerne : public QObject {
         m->g_maxOrbitIterat = 258;
         m->xm.fill(1000.0);
         m->ym.fill(1000.0);
-    }
-
-    // The names are fixed to the byte. The value is the checksum of the lines "number, tab, name",
-    // formed from the printed list.
-    void namenUnveraendert() {
-        QCryptographicHash summe(QCryptographicHash::Sha256);
-        for (const Gleichung& gleichung : gleichungen()) {
-            summe.addData(QByteArray::number(gleichung.nummer) + '\t' +
-                          QByteArray(gleichung.name.data(), qsizetype(gleichung.name.size())) +
-                          '\n');
-        }
-        QCOMPARE(summe.result().toHex(),
-                 QByteArray("4e83b06fee804a6ad40c162beb2ce1349843767b06818ec93da7de291b5a0a26"));
     }
 
     void nummer_data() { zeilenAus("equations/nummern.txt"); }

@@ -255,33 +255,24 @@ class TestDateien : public QObject {
 
     // An ending is added where none is, in the dialog: the question is about the final name.
     void endungen_data() {
-        QTest::addColumn<QString>("png");
-        QTest::addColumn<QString>("fraktal");
-        QTest::newRow("a") << "a.png"
-                           << "a.fraktal";
-        QTest::newRow("a.b") << "a.b"
-                             << "a.b";
-        QTest::newRow("DatenWirbel1.5-2026") << "DatenWirbel1.5-2026.png"
-                                             << "DatenWirbel1.5-2026.fraktal";
-        QTest::newRow("x.jpg") << "x.jpg"
-                               << "x.jpg";
-        QTest::newRow("v1.5") << "v1.5.png"
-                              << "v1.5.fraktal";
-        QTest::newRow("größe.ö2345678") << "größe.ö2345678"
-                                        << "größe.ö2345678";
-        QTest::newRow("x.abcdefghi") << "x.abcdefghi.png"
-                                     << "x.abcdefghi.fraktal";
+        QTest::addColumn<QStringList>("worte"); // typed; name of the picture and of the data
+        for (const QString zeile :
+             {"a a.png a.fraktal", "a.b a.b a.b", "x.jpg x.jpg x.jpg", "v1.5 v1.5.png v1.5.fraktal",
+              "DatenWirbel1.5-2026 DatenWirbel1.5-2026.png DatenWirbel1.5-2026.fraktal",
+              "größe.ö2345678 größe.ö2345678 größe.ö2345678",
+              "x.abcdefghi x.abcdefghi.png x.abcdefghi.fraktal"}) {
+            QTest::newRow(qPrintable(zeile)) << zeile.split(' ');
+        }
     }
     void endungen() {
-        QFETCH(QString, png);
-        QFETCH(QString, fraktal);
+        QFETCH(QStringList, worte);
         for (const int filter : {0, 1}) {
-            for (const auto& [soll, slot] : {std::pair(png, &UI::Bild_SpeichernSlot),
-                                             std::pair(fraktal, &UI::Koordinaten_SpeichernSlot)}) {
+            for (const auto& [soll, slot] : {std::pair(worte[1], &UI::Bild_SpeichernSlot),
+                                             std::pair(worte[2], &UI::Koordinaten_SpeichernSlot)}) {
                 ordner = std::make_unique<QTemporaryDir>();
                 QVERIFY(dateiSchreiben(pfad(soll), "alt"));
                 const Dialogfuehrer fuehrer(
-                    pfad(QTest::currentDataTag()), [] {}, filter);
+                    pfad(worte[0]), [] {}, filter);
                 (fenster.*slot)();
                 QCOMPARE(fuehrer.gezeigt.size(), 6);
                 QVERIFY(fuehrer.gezeigt[5].startsWith(soll + " already exists"));
@@ -292,19 +283,16 @@ class TestDateien : public QObject {
     }
 
     void fehler_data() {
-        QTest::addColumn<bool>("laden");
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<bool>("wirdOrdner"); // while the dialog is open
-        QTest::newRow("load: gone") << true << "bild.x" << false;
-        QTest::newRow("load: becomes a folder") << true << "bild.x" << true;
-        QTest::newRow("save: no such folder") << false << "fehlt/bild.x" << false;
-        QTest::newRow("save: becomes a folder") << false << "bild.x" << true;
+        QTest::addColumn<QStringList>("worte"); // name; what becomes of it while the dialog is open
+        for (const QString zeile : {"load bild.x gone", "load bild.x folder",
+                                    "save fehlt/bild.x no-folder", "save bild.x folder"}) {
+            QTest::newRow(qPrintable(zeile)) << zeile.split(' ');
+        }
     }
     void fehler() {
-        QFETCH(bool, laden);
-        QFETCH(QString, name);
-        QFETCH(bool, wirdOrdner);
-        name = pfad(name);
+        QFETCH(QStringList, worte);
+        const bool laden = worte[0] == "load", wirdOrdner = worte[2] == "folder";
+        const QString name = pfad(worte[1]);
         QList<void (UI::*)()> wege{&UI::Koordinaten_SpeichernSlot, &UI::Bild_SpeichernSlot};
         if (laden) {
             wege = {&UI::Koordinaten_LadenSlot};

@@ -127,7 +127,7 @@ class TestHilfe : public QObject {
         const Meldung kasten =
             meldungBei([&] { QMetaObject::invokeMethod(&m_fenster, qPrintable(spalten[0])); });
         QCOMPARE(kasten.anzahl, 1);
-        QCOMPARE(kasten.titel, spalten[2]);
+        QVERIFY2(kasten.titel.contains(spalten[2]), qPrintable(kasten.titel));
         QCOMPARE(kasten.besitzer, &m_fenster);
         QVERIFY(kasten.groesse.width() <= 985 && kasten.groesse.height() <= 675);
 
@@ -159,16 +159,16 @@ class TestHilfe : public QObject {
         QVERIFY2(text.startsWith("Wirbelwerk 9.87\n") && text.endsWith(Netzadresse) &&
                      text.contains("die Entwickler von Wirbelwerk"),
                  qPrintable(text));
-        m_fenster.aboutQt();
+        QVERIFY(meldungBei([this] { m_fenster.aboutQtAct->trigger(); }).titel.contains("Qt"));
         QCOMPARE(m_fenster.infoLabel11->text(), "<b>qt 6.7.2</b>");
     }
 
-    /// Every caption that a help text quotes stands on a menu, a button or a label of the window.
+    /// What a help text quotes begins a caption of the window, or names an equation there.
     void zitierteBeschriftungen() {
-        QString alle;
+        QStringList alle;
         const auto sammle = [&alle](const auto& teile) {
             for (const auto* teil : teile) {
-                alle += teil->text() + '\n';
+                alle << teil->text().remove('&');
             }
         };
         sammle(m_fenster.findChildren<QAction*>());
@@ -178,7 +178,9 @@ class TestHilfe : public QObject {
         for (const Hilfetabelle* sprache : {&g_HilfeDeutsch, &g_HilfeEnglisch}) {
             for (const Hilfetext& hilfe : *sprache) {
                 for (const auto& m : treffer("[„\"]([^“\"]+)[“\"]", sichtbar(hilfe.text))) {
-                    QVERIFY2(alle.contains(m[1]), qPrintable(m[1]));
+                    const QRegularExpression zitat("^(.*\\d: .*\\W)?" +
+                                                   QRegularExpression::escape(m[1]) + "(\\W|$)");
+                    QVERIFY2(!alle.filter(zitat).isEmpty(), qPrintable(m[1]));
                     ++zitate;
                 }
             }

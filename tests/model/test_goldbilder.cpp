@@ -3,7 +3,7 @@
 //
 // To renew them after a change that is meant to alter pictures, run this program with
 // WIRBELWERK_GOLD_ERNEUERN=1 in the environment and review the difference of tests/gold/zaehler.txt
-// (one line an equation: number, the counts compressed).
+// (an equation's number, then its picture: a line for each row, a sign for each count).
 
 #include "Bildprobe.h"
 #include "equations/Gleichungen.h"
@@ -16,33 +16,51 @@ constexpr int Hoehe = 52;
 /// division come in: libraries differ there in the last bit, and near the border of a set a last
 /// bit moves a count.
 constexpr int Hoechstens = Breite * Hoehe / 50;
-using Zaehler = QList<qint32>; ///< row by row
 
-Zaehler startbild(qint32 gleichung) {
+/// The sign of a count is at its place: digits, letters, letters with accents; 256, the limit of
+/// most pictures, is a point.
+const QString Zeichen = [] {
+    QString alle = "0123456789abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ";
+    for (char16_t weitere = u'À'; alle.size() <= 256; ++weitere) {
+        alle += weitere;
+    }
+    alle.back() = '.';
+    return alle;
+}();
+
+/// The counts as they are stored.
+QString startbild(qint32 gleichung) {
     const auto m = bildprobe(Breite, Hoehe);
     m->wahl_Gleichung = gleichung;
     m->Initialisierung();
     m->g_halbesBild = Vollbild;
     malen(*m);
-    Zaehler werte;
+    QString zeilen;
     for (std::size_t i = 0; i < Breite * Hoehe; ++i) {
-        werte << m->ImageIntegers[i / Breite + 1][i % Breite];
+        const qint32 n = m->ImageIntegers[i / Breite + 1][i % Breite];
+        zeilen += n >= 0 && n < Zeichen.size() ? Zeichen[n] : '?';
+        zeilen += i % Breite == Breite - 1 ? "\n" : "";
     }
-    return werte;
+    return zeilen;
 }
 
-QByteArray gepackt(const Zaehler& werte) {
-    QByteArray roh;
-    QDataStream strom(&roh, QIODevice::WriteOnly);
-    strom << werte;
-    return qCompress(roh, 9).toBase64();
-}
-
-Zaehler entpackt(const QByteArray& text) {
-    Zaehler werte;
-    QDataStream strom(qUncompress(QByteArray::fromBase64(text)));
-    strom >> werte;
-    return werte;
+/// What differs from the stored counts, empty when no more pixels do than given.
+QString unterschied(const QString& ist, const QString& soll, int hoechstens) {
+    QString text;
+    QRect kasten;
+    int falsche = 0;
+    for (int i = 0; i < ist.size(); ++i) {
+        if (ist[i] != soll[i]) {
+            const QPoint stelle(i % (Breite + 1), i / (Breite + 1));
+            kasten |= QRect(stelle, QSize(1, 1));
+            if (++falsche == 1) {
+                QDebug(&text) << stelle << Zeichen.indexOf(ist[i]) << "instead of"
+                              << Zeichen.indexOf(soll[i]);
+            }
+        }
+    }
+    QDebug(&text) << falsche << "in" << kasten;
+    return falsche > hoechstens ? text : QString();
 }
 
 /// Every operation of these is exactly rounded: the same counts everywhere.
@@ -62,27 +80,21 @@ class TestGoldbilder : public QObject {
         if (qEnvironmentVariableIntValue("WIRBELWERK_GOLD_ERNEUERN") == 1) {
             QVERIFY(datei.open(QIODevice::WriteOnly));
             for (const Gleichung& g : gleichungen()) {
-                QTextStream(&datei) << g.nummer << ' ' << gepackt(startbild(g.nummer)) << '\n';
+                QTextStream(&datei) << g.nummer << '\n' << startbild(g.nummer);
             }
             datei.close();
         }
         QVERIFY2(datei.open(QIODevice::ReadOnly), qPrintable(datei.fileName()));
         for (const Gleichung& g : gleichungen()) {
-            const QList<QByteArray> worte = datei.readLine().split(' ');
-            QCOMPARE(worte[0].toInt(), g.nummer); // else renew them
-            const Zaehler ist = startbild(g.nummer), soll = entpackt(worte[1]);
-            QCOMPARE(ist.size(), soll.size());
-            int falsche = 0;
-            for (int i = 0; i < Breite * Hoehe; ++i) {
-                if (ist[i] != soll[i] && ++falsche > (exakt(g.nummer) ? 0 : Hoechstens)) {
-                    QFAIL(qPrintable(QString("equation %1, column %2, row %3: %4 instead of %5")
-                                         .arg(g.nummer)
-                                         .arg(i % Breite)
-                                         .arg(i / Breite)
-                                         .arg(ist[i])
-                                         .arg(soll[i])));
-                }
+            QCOMPARE(datei.readLine().toInt(), g.nummer); // else renew them
+            QString soll;
+            for (int zeile = 0; zeile < Hoehe; ++zeile) {
+                soll += QString::fromUtf8(datei.readLine());
             }
+            QCOMPARE(soll.size(), (Breite + 1) * Hoehe);
+            const QString anders =
+                unterschied(startbild(g.nummer), soll, exakt(g.nummer) ? 0 : Hoechstens);
+            QVERIFY2(anders.isEmpty(), qPrintable(QString("equation %1: ").arg(g.nummer) + anders));
         }
         QVERIFY(datei.atEnd());
     }
