@@ -38,13 +38,10 @@ class Laufwahl {
 
 template <class Satz, class Formel>
 [[nodiscard]] consteval Zeilenlauf zeilenlauf() {
-    if constexpr (std::is_void_v<Formel>) {
-        return nullptr;
-    } else if constexpr (Formel::inSpuren) {
+    if constexpr (requires { requires Formel::inSpuren; }) { // an empty place is void
         return &Laufwahl<Satz, Formel>::rechnen;
-    } else {
-        return nullptr;
     }
+    return nullptr;
 }
 
 template <class Satz, class Formeln>
