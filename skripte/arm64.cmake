@@ -12,6 +12,8 @@ set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
 set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
-set(CMAKE_CROSSCOMPILING_EMULATOR qemu-aarch64-static -L ${WIRBELWERK_WURZEL})
+# The emulator does not redirect every question for a file that Qt asks on its way to the plugins.
+set(CMAKE_CROSSCOMPILING_EMULATOR qemu-aarch64-static -L ${WIRBELWERK_WURZEL}
+  -E QT_PLUGIN_PATH=${WIRBELWERK_WURZEL}/usr/lib/aarch64-linux-gnu/qt6/plugins)
 # Qt's code generators are this machine's own.
 set(QT_HOST_PATH /usr)
