@@ -7,7 +7,7 @@
 # Ways are g++-O1, g++-O2, g++-O3, g++-O3-native, clang++ and arm64; without any it takes all. For
 # arm64 a cross compiler builds against Debian's packages for 64-bit ARM, unpacked below build/,
 # and user-mode emulation runs the tests. Installs what is missing. No part of ./check, since all
-# ways together take hours of processor time.
+# ways together take about half an hour of processor time.
 set -euo pipefail
 cd -- "$(dirname -- "${BASH_SOURCE[0]}")/.."
 # shellcheck source=skripte/pakete.sh
