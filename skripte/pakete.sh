@@ -17,6 +17,9 @@ pakete_ci=(
     clang clang-format clang-tidy shellcheck git libbenchmark-dev
     dpkg-dev file desktop-file-utils appstream lintian man-db librsvg2-bin
 )
+# For skripte/gleichheit.sh, and what it unpacks for 64-bit ARM.
+pakete_gleichheit=(clang g++-aarch64-linux-gnu qemu-user-static)
+pakete_arm64=(qt6-base-dev libgl-dev libc6-dev)
 if [[ -n ${WAYLAND_DISPLAY:-} ]]; then
     pakete_bau+=(qt6-wayland)
 fi

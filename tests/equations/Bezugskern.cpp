@@ -1,6 +1,24 @@
 #include "Bezugskern.h"
 
+#if !defined(__x86_64__)
+#include "equations/formeln/Quotient.h"
+#endif
+
 #include <algorithm>
+
+namespace {
+
+// The library's quotient and power. On other processors than x86-64 it may fuse products and sums,
+// and the program's own stand in; what they give there is held against x86-64 by the golden values.
+#if defined(__x86_64__)
+C durch(C z, C n) { return z / n; }
+C hoch(C z, qint32 n) { return std::pow(z, n); }
+#else
+C durch(C z, C n) { return geteilt(z, n); }
+C hoch(C z, qint32 n) { return hochGanz(z, n); }
+#endif
+
+} // namespace
 
 std::unique_ptr<M> kernmodell() {
     auto m = std::make_unique<M>();
@@ -129,18 +147,18 @@ C Bezugskern::gekoppelt(C v, C k, double vorzeichen) const {
 C Bezugskern::term(C u) const {
     const C us = std::conj(u), r = u * us, q = u * u;
     if (familie == 7 || familie == 8) {
-        const C exponenten[] = {us, u, -u, 1.0 / u, -us, 1.0 / us, u};
+        const C exponenten[] = {us, u, -u, durch(1.0, u), -us, durch(1.0, us), u};
         return std::pow(hunderter == 7 ? us : u, exponenten[hunderter - 1]);
     }
     const bool auge = familie == 3 || familie == 4 || familie > 10;
     const qint32 n = !auge ? m.g_kPotenz : (hunderter == 5 ? m.kPotHg : m.kPotHu);
-    const C hoch = hunderter >= 5 && hunderter <= 7 ? std::pow(auge ? r : u, n) : C();
-    const C terme[][9] = {{q, q * u, q * q, q * q * u, hoch},
-                          {r, r * u, us * r, r * r, hoch, hoch * u, us * hoch},
-                          {q * u, q * q, q * q * u, q * q * q, hoch, u, q},
+    const C uHochN = hunderter >= 5 && hunderter <= 7 ? hoch(auge ? r : u, n) : C();
+    const C terme[][9] = {{q, q * u, q * q, q * q * u, uHochN},
+                          {r, r * u, us * r, r * r, uHochN, uHochN * u, us * uHochN},
+                          {q * u, q * q, q * q * u, q * q * q, uHochN, u, q},
                           {},
                           {},
-                          {r * u, u * r, r * r, r * r * u, hoch, hoch * u, us * hoch, us, r}};
+                          {r * u, u * r, r * r, r * r * u, uHochN, uHochN * u, us * uHochN, us, r}};
     return terme[(familie - 1) / 2][hunderter - 1];
 }
 
@@ -165,7 +183,7 @@ bool Bezugskern::bild(C& u, C a, bool haupt) const {
         return gut;
     } else if (pol) {
         const C d = C(1, 0) + a * term(u);
-        u = (u + a) / d;
+        u = durch(u + a, d);
         return std::fabs(d.real()) > 1e-20;
     } else {
         u = term(u) + a;
@@ -177,13 +195,13 @@ Bezugskern::Schritt Bezugskern::newton() {
     const int art = familie - 9; // 0: roots of 1
     const C zs = std::conj(z), q = z * z, v = q * q, r = z * zs, B = newtonB;
     const qint32 n = art == 1 ? m.g_kPotenz : (hunderter == 8 ? m.kPotHg : m.kPotHu);
-    C hoch, davor;
+    C potenz, davor;
     if (art == 1 ? hunderter == 1 : hunderter > 7) {
-        hoch = std::pow(art == 1 ? z : r, n);
-        davor = std::pow(art == 1 ? z : r, n - 1);
+        potenz = hoch(art == 1 ? z : r, n);
+        davor = hoch(art == 1 ? z : r, n - 1);
     }
-    const C polynome[][9] = {{q * z, q * z, v * z, v * z, q * z, r * z, r * z, hoch, zs * hoch},
-                             {hoch, q, q * z, v, v * z, v * q, v * q * z, v * v, v * v * z}};
+    const C polynome[][9] = {{q * z, q * z, v * z, v * z, q * z, r * z, r * z, potenz, zs * potenz},
+                             {potenz, q, q * z, v, v * z, v * q, v * q * z, v * v, v * v * z}};
     const C ableitungen[][9] = {
         {B * q, B * q, B * v, B * v, B * z * zs, B * z * zs, B * q, B * davor, B * zs * davor},
         {B * davor, B * z, B * q, B * q * z, B * v, B * v * z, B * v * q, B * v * q * z,
@@ -192,7 +210,7 @@ Bezugskern::Schritt Bezugskern::newton() {
     if (!(std::fabs(nenner.real()) > 1e-290)) {
         return Schritt::Ungezaehlt;
     }
-    z -= (polynome[art][hunderter - 1] - (art == 1 ? newtonP : 1.0)) / nenner;
+    z -= durch(polynome[art][hunderter - 1] - (art == 1 ? newtonP : 1.0), nenner);
     return Schritt::Gut;
 }
 

@@ -3,18 +3,22 @@
 //
 // To renew them after a change that is meant to alter pictures, run this program with
 // WIRBELWERK_GOLD_ERNEUERN=1 in the environment and review the difference of tests/gold/zaehler.txt
-// (an equation's number, then its picture: a line for each row, a sign for each count).
+// (an equation's number, then its picture: a line for each row, a sign for each count) and
+// werte.txt (number, checksum of the values).
 
 #include "Bildprobe.h"
 #include "equations/Gleichungen.h"
+
+#include <bit>
+
+#include <QCryptographicHash>
 
 namespace {
 
 constexpr int Breite = 60;
 constexpr int Hoehe = 52;
-/// Most pixels that may differ where sine, exponential, logarithm, power or complex
-/// division come in: libraries differ there in the last bit, and near the border of a set a last
-/// bit moves a count.
+/// Most pixels that may differ where sine, exponential, logarithm and power come in: libraries
+/// differ there in the last bit, and near the border of a set a last bit moves a count.
 constexpr int Hoechstens = Breite * Hoehe / 50;
 
 /// The sign of a count is at its place: digits, letters, letters with accents; 256, the limit of
@@ -28,20 +32,29 @@ const QString Zeichen = [] {
     return alle;
 }();
 
-/// The counts as they are stored.
-QString startbild(qint32 gleichung) {
+struct Startbild {
+    QString zaehler;  ///< as they are stored
+    QByteArray werte; ///< checksum of the bits, every NaN alike
+};
+
+Startbild startbild(qint32 gleichung) {
     const auto m = bildprobe(Breite, Hoehe);
     m->wahl_Gleichung = gleichung;
     m->Initialisierung();
     m->g_halbesBild = Vollbild;
     malen(*m);
-    QString zeilen;
+    Startbild bild;
+    QCryptographicHash summe(QCryptographicHash::Sha256);
     for (std::size_t i = 0; i < Breite * Hoehe; ++i) {
         const qint32 n = m->ImageIntegers[i / Breite + 1][i % Breite];
-        zeilen += n >= 0 && n < Zeichen.size() ? Zeichen[n] : '?';
-        zeilen += i % Breite == Breite - 1 ? "\n" : "";
+        bild.zaehler += n >= 0 && n < Zeichen.size() ? Zeichen[n] : '?';
+        bild.zaehler += i % Breite == Breite - 1 ? "\n" : "";
+        const double wert = m->ImageDoubles[i / Breite + 1][i % Breite];
+        const auto bits = std::bit_cast<quint64>(std::isnan(wert) ? qQNaN() : wert);
+        summe.addData(QByteArray::number(bits, 16) + '\n');
     }
-    return zeilen;
+    bild.werte = summe.result().toHex().first(16);
+    return bild;
 }
 
 /// What differs from the stored counts, empty when no more pixels do than given.
@@ -63,10 +76,11 @@ QString unterschied(const QString& ist, const QString& soll, int hoechstens) {
     return falsche > hoechstens ? text : QString();
 }
 
-/// Every operation of these is exactly rounded: the same counts everywhere.
+/// Every operation of these is exactly rounded: the same values and counts everywhere. The others
+/// are 7, 8 and the families 07 and 08.
 bool exakt(qint32 gleichung) {
     const qint32 f = familie(gleichung);
-    return gleichung < 100 ? gleichung != 7 && gleichung != 8 : f >= 1 && f <= 4;
+    return f != 7 && f != 8;
 }
 
 } // namespace
@@ -80,7 +94,7 @@ class TestGoldbilder : public QObject {
         if (qEnvironmentVariableIntValue("WIRBELWERK_GOLD_ERNEUERN") == 1) {
             QVERIFY(datei.open(QIODevice::WriteOnly));
             for (const Gleichung& g : gleichungen()) {
-                QTextStream(&datei) << g.nummer << '\n' << startbild(g.nummer);
+                QTextStream(&datei) << g.nummer << '\n' << startbild(g.nummer).zaehler;
             }
             datei.close();
         }
@@ -93,10 +107,27 @@ class TestGoldbilder : public QObject {
             }
             QCOMPARE(soll.size(), (Breite + 1) * Hoehe);
             const QString anders =
-                unterschied(startbild(g.nummer), soll, exakt(g.nummer) ? 0 : Hoechstens);
+                unterschied(startbild(g.nummer).zaehler, soll, exakt(g.nummer) ? 0 : Hoechstens);
             QVERIFY2(anders.isEmpty(), qPrintable(QString("equation %1: ").arg(g.nummer) + anders));
         }
         QVERIFY(datei.atEnd());
+    }
+
+    void werteWieGespeichert() {
+        QByteArrayList zeilen;
+        for (const Gleichung& g : gleichungen()) {
+            if (exakt(g.nummer)) {
+                zeilen << QByteArray::number(g.nummer) + ' ' + startbild(g.nummer).werte;
+            }
+        }
+        QFile datei(QString(GOLDORDNER) + "/werte.txt");
+        if (qEnvironmentVariableIntValue("WIRBELWERK_GOLD_ERNEUERN") == 1) {
+            QVERIFY(datei.open(QIODevice::WriteOnly));
+            datei.write(zeilen.join('\n') + '\n');
+            datei.close();
+        }
+        QVERIFY2(datei.open(QIODevice::ReadOnly), qPrintable(datei.fileName()));
+        QCOMPARE(zeilen, datei.readAll().trimmed().split('\n')); // else renew them
     }
 };
 
