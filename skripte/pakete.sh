@@ -17,6 +17,8 @@ pakete_ci=(
     clang clang-format clang-tidy shellcheck git libbenchmark-dev
     dpkg-dev file desktop-file-utils appstream lintian man-db librsvg2-bin
 )
+# To fuzz the reader of picture data.
+pakete_fuzz=(clang llvm)
 if [[ -n ${WAYLAND_DISPLAY:-} ]]; then
     pakete_bau+=(qt6-wayland)
 fi

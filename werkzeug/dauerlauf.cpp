@@ -27,10 +27,10 @@ namespace {
 
 constexpr int GezeigteSchritte = 30; ///< last steps that a failure prints
 constexpr qint32 MeisteIterationen = 200;
-constexpr qint32 Iterationsgrenze = 20;    ///< of most pictures
-constexpr QSize GroessteAnsicht(360, 120); ///< larger windows are left again after a few steps
+constexpr qint32 Iterationsgrenze = 16;    ///< of most pictures
+constexpr QSize GroessteAnsicht(350, 100); ///< larger windows are left again after a few steps
 constexpr QSize KleinsteAnsicht(285, 50);  ///< leaves a few pixels beside the panel
-constexpr int Selten = 40;                 ///< a dear command runs once in so many times
+constexpr int Selten = 150;                ///< a dear command runs once in so many times
 
 // What a step may cost, in seconds of processor time, so that neither a loaded machine nor a large
 // picture counts as hanging. In the sanitizer build the dearest of 5000 steps takes one to three
