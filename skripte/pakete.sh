@@ -20,6 +20,8 @@ pakete_ci=(
 # For skripte/gleichheit.sh, and what it unpacks for 64-bit ARM.
 pakete_gleichheit=(clang g++-aarch64-linux-gnu qemu-user-static)
 pakete_arm64=(qt6-base-dev libgl-dev libc6-dev)
+# To fuzz the reader of picture data.
+pakete_fuzz=(clang llvm)
 if [[ -n ${WAYLAND_DISPLAY:-} ]]; then
     pakete_bau+=(qt6-wayland)
 fi

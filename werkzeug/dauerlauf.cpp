@@ -1,17 +1,16 @@
 // Robustness run: drives the live window with seeded random commands, clicks, panel values, window
-// sizes and files, and stops at the first unexpected warning; a sanitizer build also stops at any
-// report. Prints the seed and the last steps, so that a failure can be repeated.
+// sizes and files, and stops at the first unexpected warning or step that hangs; a sanitizer build
+// also stops at any report. Prints the seed and the last steps, so that a failure can be repeated.
 //
 //     wirbelwerk_dauerlauf [STEPS [SEED]]          (default 20000 steps, seed 1)
 //
 // Orbit lists, pictures and picture data are written to the working directory; start it in a
-// scratch folder.
+// scratch folder. skripte/dauerlauf.sh does so, seed after seed.
 
 #include "files/Bilddaten.h"
 #include "UI_Hauptfenster.h"
 
 #include <QBuffer>
-#include <QElapsedTimer>
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QMetaMethod>
@@ -20,16 +19,26 @@
 #include <QTextStream>
 #include <QTimer>
 
+#include <ctime>
 #include <deque>
 #include <random>
 
 namespace {
 
-constexpr int GezeigteSchritte = 30;    ///< last steps that a failure prints
-constexpr int LangsamerSchritt = 20000; ///< milliseconds after which a step counts as hanging
+constexpr int GezeigteSchritte = 30; ///< last steps that a failure prints
 constexpr qint32 MeisteIterationen = 200;
-constexpr qint32 Iterationsgrenze = 60;    ///< keeps one picture short
-constexpr QSize GroessteAnsicht(700, 500); ///< larger windows are left again after a few steps
+constexpr qint32 Iterationsgrenze = 16;    ///< of most pictures
+constexpr QSize GroessteAnsicht(350, 100); ///< larger windows are left again after a few steps
+constexpr QSize KleinsteAnsicht(285, 50);  ///< leaves a few pixels beside the panel
+constexpr int Selten = 150;                ///< a dear command runs once in so many times
+
+// What a step may cost, in seconds of processor time, so that neither a loaded machine nor a large
+// picture counts as hanging. In the sanitizer build the dearest of 5000 steps takes one to three
+// times its share.
+constexpr double Grundzeit = 0.1;          ///< dialogs, a new panel, a new model
+constexpr double ZeitJePunkt = 3e-7;       ///< one pixel, one iteration
+constexpr double FarbschritteJePixel = 20; ///< what colouring a pixel costs, in iterations
+constexpr double Haenger = 50;             ///< times its share, and a step counts as hanging
 
 std::deque<QString> letzteSchritte;
 bool fehler = false;
@@ -71,23 +80,46 @@ class Dauerlauf {
     }
 
     void laufen(int schritte) {
-        QElapsedTimer uhr;
         for (int n = 1; n <= schritte && !fehler; ++n) {
-            uhr.start();
-            schritt(n);
-            QApplication::processEvents();
+            const double vorher = punkte();
+            const double beginn = prozessorzeit();
+            schritt(n); // a message box lets the window paint
+            const double inmitten = punkte();
             kurzHalten();
-            if (uhr.elapsed() > LangsamerSchritt) {
-                melden(QString("step %1 took %2 ms").arg(n).arg(uhr.elapsed()));
-            }
+            QApplication::processEvents();
+            zeitPruefen(n, prozessorzeit() - beginn, std::max({vorher, inmitten, punkte()}));
             if (n % 1000 == 0) {
-                QTextStream(stdout) << n << " steps\n";
+                QTextStream(stdout) << n << " steps, " << qRound(prozessorzeit()) << " s\n";
             }
         }
+        QTextStream(stdout) << "processor time " << prozessorzeit() << " s, dearest step "
+                            << teuerster << " of its share (" << teuersterName << ")\n";
     }
 
   private:
     int bis(int grenze) { return std::uniform_int_distribution<int>(0, grenze - 1)(zufall); }
+
+    static double prozessorzeit() { return double(std::clock()) / CLOCKS_PER_SEC; }
+
+    /// Pixels times iterations of one picture as things stand.
+    [[nodiscard]] double punkte() const {
+        const Mandelbrot& m = *fenster.Menge;
+        const bool fest = m.g_PixConstX > 0 && m.g_PixConstY > 0;
+        const int breite = std::min(fest ? m.g_PixConstX : m.width(), Mandelbrot::BildMax);
+        const int hoehe = std::min(fest ? m.g_PixConstY : m.height(), Mandelbrot::BildMax);
+        return double(breite) * hoehe * (FarbschritteJePixel + std::max(m.Max_Iterationen, 0));
+    }
+
+    void zeitPruefen(int n, double zeit, double arbeit) {
+        const double anteil = zeit / (Grundzeit + ZeitJePunkt * arbeit);
+        if (anteil > teuerster) {
+            teuerster = anteil;
+            teuersterName = letzteSchritte.back();
+        }
+        if (anteil > Haenger) {
+            melden(QString("step %1 took %2 s, %3 times its share").arg(n).arg(zeit).arg(anteil));
+        }
+    }
 
     double zahl() {
         constexpr std::array<double, 14> besondere{0.0,  -0.0,  1.0,   -1.0,  0.5,    1e30,  -1e30,
@@ -128,7 +160,12 @@ class Dauerlauf {
     }
 
     void befehl(int n) {
-        const QMetaMethod methode = befehle[static_cast<std::size_t>(bis(int(befehle.size())))];
+        // Help texts and large windows cost a hundred times more than the rest and change less.
+        QMetaMethod methode;
+        do {
+            methode = befehle[static_cast<std::size_t>(bis(int(befehle.size())))];
+        } while ((methode.name().startsWith("about") || methode.name().startsWith("Pixel")) &&
+                 bis(Selten) != 0);
         merken(n, QString::fromLatin1(methode.name()));
         methode.invoke(&fenster, Qt::DirectConnection);
     }
@@ -193,24 +230,29 @@ class Dauerlauf {
     }
 
     void groesseAendern(int n) {
-        const QSize groesse(1 + bis(bis(8) == 0 ? 1600 : 600), 1 + bis(bis(8) == 0 ? 1300 : 400));
+        const QSize groesse(1 + bis(bis(16) == 0 ? 1600 : GroessteAnsicht.width()),
+                            1 + bis(bis(16) == 0 ? 1300 : GroessteAnsicht.height()));
         merken(n, QString("size %1 x %2").arg(groesse.width()).arg(groesse.height()));
         fenster.resize(groesse);
     }
 
-    /// The run tests commands, not patience: few iterations, small windows.
+    /// The run tests commands, not patience: few iterations, small windows, but not without a
+    /// picture for long.
     void kurzHalten() {
-        if (fenster.Menge->Max_Iterationen > MeisteIterationen || bis(20) == 0) {
-            fenster.Menge->Max_Iterationen = Iterationsgrenze;
-            fenster.UI_Iterationen->setValue(Iterationsgrenze);
+        const qint32 grenze = bis(20) == 0 ? MeisteIterationen : Iterationsgrenze;
+        if (fenster.Menge->Max_Iterationen > grenze) {
+            fenster.Menge->Max_Iterationen = grenze;
+            fenster.UI_Iterationen->setValue(grenze);
         }
-        if (fenster.Menge->g_PixConstX > GroessteAnsicht.width() && bis(3) == 0) {
+        if (fenster.Menge->g_PixConstX > GroessteAnsicht.width() && bis(2) == 0) {
             fenster.Menge->g_PixConstX = 0;
         }
         const bool gross = fenster.width() > GroessteAnsicht.width() ||
                            fenster.height() > GroessteAnsicht.height();
-        if (gross && bis(3) == 0) {
-            fenster.resize(300 + bis(100), 200 + bis(100));
+        const bool leer = fenster.Menge->width() <= Mandelbrot::Streifenbreite;
+        if ((gross || leer) && bis(2) == 0) {
+            const QSize spiel = GroessteAnsicht - KleinsteAnsicht;
+            fenster.resize(KleinsteAnsicht + QSize(bis(spiel.width()), bis(spiel.height())));
         }
     }
 
@@ -220,6 +262,8 @@ class Dauerlauf {
     QPointer<QFileDialog> beantwortet; ///< the next dialog may get the same address
     std::size_t dialoge = 0;
     std::vector<QMetaMethod> befehle;
+    double teuerster = 0.0; ///< the largest part of its share that a step has taken
+    QString teuersterName;
 };
 
 } // namespace
