@@ -32,7 +32,8 @@ inline double ergebnis(const Mandelbrot& m, qint32 iterationen, qint64 schritte,
 
 /// Every step with its full bailout test, which also records the orbit.
 template <bool zaehltAbbruch, class Schritt, class Wert>
-[[gnu::flatten]] double schrittweise(const Mandelbrot& m, const Schritt& schritt, Stand<Wert> s, qint32 getan) {
+[[gnu::flatten]] double schrittweise(const Mandelbrot& m, const Schritt& schritt, Stand<Wert> s,
+                                     qint32 getan) {
     double betrQ = 0.0;
     bool abbr = false;
     m.IteratSubf = 1 + getan;
@@ -53,7 +54,8 @@ template <bool zaehltAbbruch, class Schritt, class Wert>
 /// modulo the period. A cycle search looks back further than the state; it is periodic, and wholly
 /// tested, g_zycmax + 1 steps after the repeat.
 template <bool zaehltAbbruch, class Schritt, class Wert>
-[[gnu::flatten]] double abgekuerzt(const Mandelbrot& m, const Schritt& schritt, Stand<Wert> s, qint32 getan) {
+[[gnu::flatten]] double abgekuerzt(const Mandelbrot& m, const Schritt& schritt, Stand<Wert> s,
+                                   qint32 getan) {
     const double wertAbbruch = m.wert_Abbruch;
     const qint32 grenze = m.Max_Iterationen;
     Wiederkehr<Wert> wiederkehr(s);
