@@ -112,17 +112,15 @@ class Zyklenlauf : Spurenlauf<Satz, Formel, mitZwilling, Zyklenregister<Formel>>
     [[gnu::flatten, gnu::noinline]] void einSchritt(Buendel& b, const Schrittart& schritt,
                                                     qint64 stand) {
         const M vorher = b.lebt;
-        M zaehlt = vorher;
         const auto abbr = schritt(b.s);
         T rq = suchen(b.verlauf, re(b.s.z), im(b.s.z));
         if constexpr (kannAbbrechen) {
             rq = wahl(abbr, T(0.0), rq);
             b.lebt = b.lebt & ~abbr;
-            zaehlt = Formel::zaehltAbbruch ? vorher : b.lebt;
         }
         r.getestet = r.getestet || eine(b.lebt);
         b.rq = wahl(vorher, rq, b.rq);
-        b.gezaehlt = b.gezaehlt - zaehlt;
+        b.gezaehlt = b.gezaehlt - (Formel::zaehltAbbruch ? vorher : vorher & b.lebt);
         b.lebt = b.lebt & (rq < T(r.grenze));
         const M amZiel = gleich(b.ziel, M(stand)) & b.lebt;
         b.erreicht = b.erreicht | amZiel;
