@@ -20,9 +20,13 @@ void orbitpunktAufzeichnen(const Mandelbrot& m, double x, double y) {
 
 } // namespace
 
+bool abbruchBekannt(const Mandelbrot& m) {
+    return m.glg_Abbruch >= 0 && m.glg_Abbruch <= std::min(m.g_Max_glg_Abbruch, AbbruchMax);
+}
+
 Abbruchart abbruchVorbereiten(const Mandelbrot& m) {
     m.g_GenauJa = 0;
-    if (m.glg_Abbruch < 0 || m.glg_Abbruch > std::min(m.g_Max_glg_Abbruch, AbbruchMax)) {
+    if (!abbruchBekannt(m)) {
         m.glg_Abbruch = 0;
     }
     const auto art = static_cast<Abbruchart>(m.glg_Abbruch);
@@ -45,12 +49,8 @@ double zyklusBetrag(const Mandelbrot& m, Abbruchart art, double x, double y) {
         const auto i = static_cast<std::size_t>(zyklus);
         const double dd = std::fabs(m.xm[i] - x) + std::fabs(m.ym[i] - y);
         if (genau > dd) {
-            if (art == Abbruchart::Delta) {
-                rq = 100.0 + 2.0 * (m.g_Max_rgbFarben * (dd / genau));
-            } else {
-                const qint64 skalierung = qint64{m.g_Max_rgbFarben} / letzter;
-                rq = static_cast<double>((zyklus + 1) * skalierung + 100);
-            }
+            rq = art == Abbruchart::Delta ? deltabetrag<double>(m.g_Max_rgbFarben, dd, genau)
+                                          : laengenbetrag(m.g_Max_rgbFarben, letzter, zyklus);
             break;
         }
     }

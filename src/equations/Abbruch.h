@@ -4,8 +4,11 @@
 
 class Mandelbrot;
 
-/// The repairs with which every bailout test begins, lasting ones of the model: a variant outside
-/// 0..9 (or above g_Max_glg_Abbruch) becomes 0; with a cycle search g_zycmax 0 becomes 7 and a
+/// Whether glg_Abbruch is a variant: 0..9, and not above g_Max_glg_Abbruch.
+[[nodiscard]] bool abbruchBekannt(const Mandelbrot& m);
+
+/// The repairs with which every bailout test begins, lasting ones of the model: an unknown variant
+/// becomes 0; with a cycle search g_zycmax 0 becomes 7 and a
 /// number above 24 becomes 24. Sets g_GenauJa. Returns the variant in force.
 Abbruchart abbruchVorbereiten(const Mandelbrot& m);
 

@@ -30,13 +30,14 @@ Zeilenlauf laufAus(Befehlssatz satz, std::size_t stelle) {
     return nullptr;
 }
 
-template <class... Gruppen>
-Zeilenlauf laufFuer(Befehlssatz satz, qint32 nummer, formeln::Liste<Gruppen...> /*verzeichnis*/) {
-    Zeilenlauf lauf = nullptr;
-    ((Gruppen::umfasst(nummer) ? void(lauf = laufAus<Gruppen>(satz, Gruppen::stelle(nummer)))
-                               : void()),
-     ...);
-    return lauf;
+/// nullptr where single pixels are all there is.
+Zeilenlauf laufFuer(const Mandelbrot& m) {
+    if (m.Orbitmodus == 2) {
+        return nullptr;
+    }
+    const auto lauf = [satz = verfuegbar(rechenweise().befehlssatz)]<class Gruppe>(
+                          std::size_t stelle) { return laufAus<Gruppe>(satz, stelle); };
+    return formeln::nachschlagen<Zeilenlauf>(m.wahl_Gleichung, lauf, formeln::Verzeichnis{});
 }
 
 // --- What the lanes are given --------------------------------------------------------------------
@@ -60,11 +61,8 @@ double normgrenze(double wert) {
 
 /// Whether the bailout test has nothing left to repair; it repairs at the first test made.
 bool abbruchBereit(const Mandelbrot& m) {
-    if (m.glg_Abbruch < 0 || m.glg_Abbruch > std::min(m.g_Max_glg_Abbruch, AbbruchMax)) {
-        return false;
-    }
-    return !istZyklussuche(static_cast<Abbruchart>(m.glg_Abbruch)) ||
-           (m.g_zycmax >= 1 && m.g_zycmax <= Mandelbrot::ZyklusMax);
+    return abbruchBekannt(m) && (!istZyklussuche(static_cast<Abbruchart>(m.glg_Abbruch)) ||
+                                 (m.g_zycmax >= 1 && m.g_zycmax <= Mandelbrot::ZyklusMax));
 }
 
 void abbruchEintragen(const Mandelbrot& m, Zeilenstueck& r) {
@@ -78,8 +76,7 @@ void abbruchEintragen(const Mandelbrot& m, Zeilenstueck& r) {
         r.genau = m.g_Genauigkeit;
         r.farben = m.g_Max_rgbFarben;
         for (qint32 i = 0; i <= r.zycmax; ++i) {
-            const qint64 skalierung = qint64{m.g_Max_rgbFarben} / m.g_zycmax;
-            r.zyklusBetrag[i] = static_cast<double>((i + 1) * skalierung + 100);
+            r.zyklusBetrag[i] = laengenbetrag(m.g_Max_rgbFarben, m.g_zycmax, i);
         }
     }
 }
@@ -174,9 +171,7 @@ void zeileRechnen(const Mandelbrot& m, const Zeilenauftrag& auftrag) {
         return;
     }
     vektorregisterFreigeben();
-    const Zeilenlauf lauf = m.Orbitmodus == 2 ? nullptr
-                                              : laufFuer(verfuegbar(rechenweise().befehlssatz),
-                                                         m.wahl_Gleichung, formeln::Verzeichnis{});
+    const Zeilenlauf lauf = laufFuer(m);
     // Pixel by pixel until the bailout test has made its repairs; then in lanes.
     for (std::size_t i = 0; i < auftrag.x.size(); ++i) {
         if (lauf != nullptr && auftrag.x.size() - i > 1 && abbruchBereit(m)) {

@@ -51,7 +51,9 @@ struct PlusC : KomplexeForm {
     bool zwilling(K& w, const K& a) const {
         return haupt(w, a);
     }
-    static constexpr bool abbruch(bool /*haupt*/, bool /*zwilling*/) { return false; }
+    [[gnu::always_inline]] static constexpr bool abbruch(bool /*haupt*/, bool /*zwilling*/) {
+        return false;
+    }
 };
 
 template <>
@@ -66,7 +68,9 @@ struct PlusC<Keins> : KomplexeForm {
     bool zwilling(K& /*w*/, const K& /*a*/) const {
         return false;
     }
-    static constexpr bool abbruch(bool /*haupt*/, bool /*zwilling*/) { return false; }
+    [[gnu::always_inline]] static constexpr bool abbruch(bool /*haupt*/, bool /*zwilling*/) {
+        return false;
+    }
 };
 
 /// A complex power of Z, plus C. The start value is pushed off zero, where it has no logarithm.

@@ -23,14 +23,32 @@ inline constexpr qint32 AbbruchMax = 9;
     return art == Abbruchart::Delta || art == Abbruchart::Zyklen;
 }
 
+/// Measure of a cycle search by distance: dd from the matching value, plane units, with the
+/// tolerance genau.
+template <class T>
+[[nodiscard]] constexpr T deltabetrag(double farben, const T& dd, const T& genau) {
+    return 100.0 + 2.0 * (farben * (dd / genau));
+}
+
+/// Measure of a cycle search by length: a match with entry `zyklus` of a history up to `letzter`,
+/// which is not 0.
+[[nodiscard, gnu::always_inline]] constexpr double laengenbetrag(qint32 farben, qint32 letzter,
+                                                                 qint32 zyklus) noexcept {
+    return static_cast<double>((zyklus + 1) * (qint64{farben} / letzter) + 100);
+}
+
 /// Measure of the value (x, y), plane units to the measure's power. T is double or a vector of
-/// lanes. The cycle searches have no measure of this kind and give 0.
+/// lanes, which know no Betrag: they measure its square. The cycle searches have no measure of this
+/// kind and give 0.
 template <class T>
 [[nodiscard]] constexpr T betragOhneZyklus(Abbruchart art, const T& x, const T& y) {
     const auto hyperbel = [&] { return x * x - y * y; };
     switch (art) {
     case Abbruchart::Betrag:
-        return wurzel(x * x + y * y);
+        if constexpr (std::is_same_v<T, double>) {
+            return std::sqrt(x * x + y * y);
+        }
+        break;
     case Abbruchart::Norm:
         return y * y + x * x;
     case Abbruchart::Betragssumme:

@@ -25,7 +25,9 @@ struct Ungebremst : ReelleForm {
     bool zwilling(Paar<T>& w, const Paar<T>& a) const {
         return haupt(w, a);
     }
-    static constexpr bool abbruch(bool /*haupt*/, bool /*zwilling*/) { return false; }
+    [[gnu::always_inline]] static constexpr bool abbruch(bool /*haupt*/, bool /*zwilling*/) {
+        return false;
+    }
 };
 
 /// Z*Z + C.

@@ -11,9 +11,7 @@ namespace formeln {
 
 /// A list of types.
 template <class... Typen>
-struct Liste {
-    static constexpr std::size_t Anzahl = sizeof...(Typen);
-};
+struct Liste {};
 
 /// The numbers 1, 2, 3, ... in real arithmetic. The formula at place n of a group is that of a
 /// number with stelle(number) = n; place 0 of this one is empty.
@@ -68,6 +66,18 @@ struct Polaugen
 
 using Verzeichnis =
     Liste<Reelle, Potenzen, Augen, Pole, Exponenten, Einswurzeln, Wurzeln, Polaugen>;
+
+/// What `frage`, called with a group as its type and a place, says for the group and the place of a
+/// number; a value-initialised Antwort for a number that no group has.
+template <class Antwort, class Frage, class... Gruppen>
+[[nodiscard]] Antwort nachschlagen(qint32 nummer, const Frage& frage, Liste<Gruppen...> /*alle*/) {
+    Antwort antwort{};
+    ((Gruppen::umfasst(nummer)
+          ? void(antwort = frage.template operator()<Gruppen>(Gruppen::stelle(nummer)))
+          : void()),
+     ...);
+    return antwort;
+}
 
 /// Whether lanes can carry any formula of a group.
 template <class... Formel>

@@ -94,7 +94,6 @@ struct Stand {
 
 // What lanes do with their own types, for a single number. (Spuren.h has the lanes' side.)
 
-[[nodiscard]] inline double wurzel(double wert) noexcept { return std::sqrt(wert); }
 [[nodiscard]] inline double absolut(double wert) noexcept { return std::fabs(wert); }
 [[nodiscard]] constexpr double wahl(bool m, double dann, double sonst) noexcept {
     return m ? dann : sonst;

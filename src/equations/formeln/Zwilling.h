@@ -1,5 +1,6 @@
 #pragma once
 
+#include "equations/formeln/Formelwerte.h"
 #include "equations/formeln/Zahlen.h"
 
 // The coupling of the twin orbit: the constant that is added to the main value Z comes from the
@@ -10,6 +11,18 @@
 [[nodiscard, gnu::always_inline]] constexpr qint32 zwillingsart(qint32 g_ZwillingJa,
                                                                 qint32 letzte) noexcept {
     return g_ZwillingJa <= 0 ? 0 : (g_ZwillingJa > letzte ? letzte + 1 : g_ZwillingJa);
+}
+
+/// The coupling that the twin settings ask for.
+template <class Kopplung>
+[[nodiscard, gnu::always_inline]] inline Kopplung kopplungAus(const Formelwerte& werte) {
+    Kopplung k{};
+    if constexpr (Kopplung::Letzte > 0) {
+        k.art = zwillingsart(werte.zwilling, Kopplung::Letzte);
+        k.px = werte.px;
+        k.py = werte.py;
+    }
+    return k;
 }
 
 /// No twin: both constants stay plain.

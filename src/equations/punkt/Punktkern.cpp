@@ -2,21 +2,9 @@
 
 #include "equations/punkt/Punktlauf.h"
 
-namespace {
-
-template <class... Gruppen>
-const Punktkern* suchen(qint32 nummer, formeln::Liste<Gruppen...> /*verzeichnis*/) {
-    const Punktkern* kern = nullptr;
-    ((Gruppen::umfasst(nummer) ? void(kern = &Punktkerne<Gruppen>[Gruppen::stelle(nummer)])
-                               : void()),
-     ...);
-    return kern;
-}
-
-} // namespace
-
 const Punktkern* punktkernFuer(qint32 wahl_Gleichung) {
-    return suchen(wahl_Gleichung, formeln::Verzeichnis{});
+    const auto kern = []<class Gruppe>(std::size_t stelle) { return &Punktkerne<Gruppe>[stelle]; };
+    return formeln::nachschlagen<const Punktkern*>(wahl_Gleichung, kern, formeln::Verzeichnis{});
 }
 
 Formelwerte werteAus(const Mandelbrot& m) {

@@ -21,18 +21,6 @@ void gleichungReparieren(const Mandelbrot& m) {
     }
 }
 
-/// The coupling that the twin settings ask for.
-template <class Kopplung>
-[[nodiscard]] Kopplung kopplungAus(const Formelwerte& werte) {
-    Kopplung k{};
-    if constexpr (Kopplung::Letzte > 0) {
-        k.art = zwillingsart(werte.zwilling, Kopplung::Letzte);
-        k.px = werte.px;
-        k.py = werte.py;
-    }
-    return k;
-}
-
 /// One pixel, as Punktkern::rechnen says.
 template <class Formel>
 double punktRechnen(const Mandelbrot& m, const Pixel& pixel, const Zwischenstand* ab = nullptr) {

@@ -1,6 +1,3 @@
 #include "equations/zeile/Zeilentafel.h"
 
-template <>
-const Zeilenlauf* zeilentafel<Satz::Befehle, formeln::Einswurzeln>() {
-    return Zeilenlaeufe<Satz, formeln::Einswurzeln::Formeln>::Tafel;
-}
+template const Zeilenlauf* zeilentafel<Satz::Befehle, formeln::Einswurzeln>();

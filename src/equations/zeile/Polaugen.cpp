@@ -1,6 +1,3 @@
 #include "equations/zeile/Zeilentafel.h"
 
-template <>
-const Zeilenlauf* zeilentafel<Satz::Befehle, formeln::Polaugen>() {
-    return Zeilenlaeufe<Satz, formeln::Polaugen::Formeln>::Tafel;
-}
+template const Zeilenlauf* zeilentafel<Satz::Befehle, formeln::Polaugen>();

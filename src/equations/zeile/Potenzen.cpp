@@ -1,6 +1,3 @@
 #include "equations/zeile/Zeilentafel.h"
 
-template <>
-const Zeilenlauf* zeilentafel<Satz::Befehle, formeln::Potenzen>() {
-    return Zeilenlaeufe<Satz, formeln::Potenzen::Formeln>::Tafel;
-}
+template const Zeilenlauf* zeilentafel<Satz::Befehle, formeln::Potenzen>();

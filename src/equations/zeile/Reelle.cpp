@@ -1,6 +1,3 @@
 #include "equations/zeile/Zeilentafel.h"
 
-template <>
-const Zeilenlauf* zeilentafel<Satz::Befehle, formeln::Reelle>() {
-    return Zeilenlaeufe<Satz, formeln::Reelle::Formeln>::Tafel;
-}
+template const Zeilenlauf* zeilentafel<Satz::Befehle, formeln::Reelle>();

@@ -56,7 +56,6 @@ struct Spuren {
     friend Spuren operator/(const Spuren& l, const Spuren& r) { return {l.a / r.a, l.b / r.b}; }
     friend Spuren operator-(const Spuren& l) { return {-l.a, -l.b}; }
     friend Spuren absolut(const Spuren& l) { return {absolut(l.a), absolut(l.b)}; }
-    friend Spuren wurzel(const Spuren& l) { return {wurzel(l.a), wurzel(l.b)}; }
 };
 
 /// Truth values of n registers of lanes: all bits of a lane are set or none. As whole numbers they
@@ -146,13 +145,6 @@ struct Spuren<Satz, 1> {
         using Bits = typename Maske<Satz, 1>::Register;
         constexpr long long ohneVorzeichen = 0x7fffffffffffffff;
         return {(Register)((Bits)l.v & (Bits{} + ohneVorzeichen))};
-    }
-    friend Spuren wurzel(const Spuren& l) {
-        Register r{};
-        for (int i = 0; i < Satz::Breite; ++i) {
-            r[i] = __builtin_sqrt(l.v[i]);
-        }
-        return {r};
     }
 };
 

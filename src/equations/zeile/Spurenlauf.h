@@ -7,8 +7,27 @@
 #include <type_traits>
 #include <utility>
 
-/// What all loops over bundles of n registers share: the types of a formula in lanes, its step, and
-/// the comparison of states.
+/// Lanes whose state is equal to an earlier one; `zweiWerte`: the twin value is part of it.
+template <class Wert>
+auto wiederholt(const Stand<Wert>& s, const Stand<Wert>& frueher, bool zweiWerte) {
+    auto m = bitgleich(re(s.z), re(frueher.z)) & bitgleich(im(s.z), im(frueher.z));
+    if (zweiWerte) {
+        m = m & bitgleich(re(s.w), re(frueher.w)) & bitgleich(im(s.w), im(frueher.w));
+    }
+    return m;
+}
+
+/// Lanes with a NaN in their state: the library's arithmetic might have gone another way.
+template <class Wert>
+auto verdorben(const Stand<Wert>& s, bool zweiWerte) {
+    auto m = istNaN(re(s.z)) | istNaN(im(s.z));
+    if (zweiWerte) {
+        m = m | istNaN(re(s.w)) | istNaN(im(s.w));
+    }
+    return m;
+}
+
+/// What all loops over bundles of n registers share: the types of a formula in lanes and its step.
 template <class Satz, class Formel, bool mitZwilling, int n>
 class Spurenlauf {
   protected:
@@ -20,7 +39,6 @@ class Spurenlauf {
 
     static constexpr int Vektoren = n;  ///< registers of a bundle
     static constexpr int L = T::Anzahl; ///< lanes of a bundle
-    static constexpr qint64 Stueck = 8; ///< steps between two looks at the lanes
     /// Real arithmetic is exact in lanes; a complex product or quotient may have to recover an
     /// infinity.
     static constexpr bool reell = std::is_same_v<Wert, Paar<T>>;
@@ -37,13 +55,18 @@ class Spurenlauf {
     static constexpr qint64 kleiner(qint64 a, qint64 b) { return a < b ? a : b; }
 
     [[nodiscard]] Schrittart schrittMit(const Wert& c) const {
-        Kopplung k{};
-        if constexpr (mitZwilling) {
-            k.art = zwillingsart(r.werte.zwilling, Kopplung::Letzte);
-            k.px = r.werte.px;
-            k.py = r.werte.py;
+        return {{r.werte}, kopplungAus<Kopplung>(r.werte), c, c};
+    }
+
+    /// Makes a step. Where it is long, as dear ones with a twin are, all loops share one function:
+    /// the call is nothing beside it, and copies would take a third of the time that lanes need to
+    /// compile.
+    static auto machen(const Schrittart& schritt, Stand<Wert>& s) {
+        if constexpr (Formel::teuer && mitZwilling) {
+            return gerufen(schritt, s);
+        } else {
+            return schritt(s);
         }
-        return {{r.werte}, k, c, c};
     }
 
     /// Start value and constant of L pixels with the real coordinates x.
@@ -55,20 +78,8 @@ class Spurenlauf {
         formel.beginnen(z, c);
     }
 
-    static M wiederholt(const Stand<Wert>& s, const Stand<Wert>& g) {
-        M m = bitgleich(re(s.z), re(g.z)) & bitgleich(im(s.z), im(g.z));
-        if constexpr (zweiWerte) {
-            m = m & bitgleich(re(s.w), re(g.w)) & bitgleich(im(s.w), im(g.w));
-        }
-        return m;
-    }
-
-    /// Lanes with a NaN in their state: the library's arithmetic might have gone another way.
-    static M verdorben(const Stand<Wert>& s) {
-        M m = istNaN(re(s.z)) | istNaN(im(s.z));
-        if constexpr (zweiWerte) {
-            m = m | istNaN(re(s.w)) | istNaN(im(s.w));
-        }
-        return m;
+  private:
+    [[gnu::flatten, gnu::noinline]] static auto gerufen(const Schrittart& schritt, Stand<Wert>& s) {
+        return schritt(s);
     }
 };

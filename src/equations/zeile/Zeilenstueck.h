@@ -10,6 +10,7 @@
 struct Zeilenstueck {
     static constexpr qint32 Hoechstens = 1216; ///< most pixels of a piece
     static constexpr qint32 ZyklusMax = 24;    ///< last index of a history at most
+    static constexpr qint64 Blickabstand = 8;  ///< steps between two looks at the lanes
     /// Offset of a preset history entry from the start value.
     static constexpr double Voreinstellung = 1000.111;
 
@@ -41,6 +42,6 @@ struct Zeilenstueck {
 using Zeilenlauf = void (*)(Zeilenstueck&);
 
 /// The lanes of a group for one instruction set: a function for each place of the list, nullptr
-/// where lanes cannot carry the formula. Each is defined in the source of the group.
+/// where lanes cannot carry the formula. Each is made in the source of the group.
 template <Befehlssatz satz, class Gruppe>
 [[nodiscard]] const Zeilenlauf* zeilentafel();

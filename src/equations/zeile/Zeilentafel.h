@@ -24,15 +24,9 @@ class Laufwahl {
     static void mitMass(Zeilenstueck& r) {
         if (r.abbruchart == Abbruchart::Delta || r.abbruchart == Abbruchart::Zyklen) {
             Zyklenlauf<Satz, Formel, mitZwilling>(r).rechnen();
-            return;
+        } else {
+            Rundenlauf<Satz, Formel, mitZwilling>(r).rechnen();
         }
-        if constexpr (!Formel::teuer) {
-            if (r.abbruchart == Abbruchart::Norm) {
-                Rundenlauf<Satz, Formel, mitZwilling, true>(r).rechnen();
-                return;
-            }
-        }
-        Rundenlauf<Satz, Formel, mitZwilling, false>(r).rechnen();
     }
 };
 
@@ -52,3 +46,8 @@ template <class Satz, class... Formel>
 struct Zeilenlaeufe<Satz, formeln::Liste<Formel...>> {
     static constexpr Zeilenlauf Tafel[] = {zeilenlauf<Satz, Formel>()...};
 };
+
+template <Befehlssatz satz, class Gruppe>
+const Zeilenlauf* zeilentafel() {
+    return Zeilenlaeufe<typename Satzwahl<satz>::Typ, typename Gruppe::Formeln>::Tafel;
+}

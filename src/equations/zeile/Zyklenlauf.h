@@ -26,7 +26,7 @@ class Zyklenlauf : Spurenlauf<Satz, Formel, mitZwilling, Zyklenregister<Formel>>
     using Lauf::L;
     using Lauf::r;
     using Lauf::reell;
-    using Lauf::Stueck;
+    using Lauf::zweiWerte;
     using typename Lauf::M;
     using typename Lauf::Schrittart;
     using typename Lauf::T;
@@ -63,7 +63,7 @@ class Zyklenlauf : Spurenlauf<Satz, Formel, mitZwilling, Zyklenregister<Formel>>
             const M treffer = dd < genau;
             if (eine(treffer)) {
                 const T betrag =
-                    delta ? 100.0 + 2.0 * (r.farben * (dd / genau)) : T(r.zyklusBetrag[zyklus]);
+                    delta ? deltabetrag(r.farben, dd, genau) : T(r.zyklusBetrag[zyklus]);
                 rq = wahl(treffer, betrag, rq);
             }
             k = k == r.zycmax ? 0 : k + 1;
@@ -102,7 +102,7 @@ class Zyklenlauf : Spurenlauf<Satz, Formel, mitZwilling, Zyklenregister<Formel>>
         for (qint64 stand = 1; stand <= r.schritte && eine(b.lebt); ++stand) {
             einSchritt(b, schritt, stand);
             r.schritteGetan += L;
-            if (r.abkuerzung && stand % Stueck == 0) {
+            if (r.abkuerzung && stand % Zeilenstueck::Blickabstand == 0) {
                 zielVorziehen(b, stand);
             }
         }
@@ -112,7 +112,7 @@ class Zyklenlauf : Spurenlauf<Satz, Formel, mitZwilling, Zyklenregister<Formel>>
     [[gnu::flatten, gnu::noinline]] void einSchritt(Buendel& b, const Schrittart& schritt,
                                                     qint64 stand) {
         const M vorher = b.lebt;
-        const auto abbr = schritt(b.s);
+        const auto abbr = Lauf::machen(schritt, b.s);
         T rq = suchen(b.verlauf, re(b.s.z), im(b.s.z));
         if constexpr (kannAbbrechen) {
             rq = wahl(abbr, T(0.0), rq);
@@ -126,7 +126,7 @@ class Zyklenlauf : Spurenlauf<Satz, Formel, mitZwilling, Zyklenregister<Formel>>
         b.erreicht = b.erreicht | amZiel;
         b.lebt = b.lebt & ~amZiel;
         if constexpr (!reell) {
-            b.unklar = b.unklar | (vorher & Lauf::verdorben(b.s));
+            b.unklar = b.unklar | (vorher & verdorben(b.s, zweiWerte));
             b.lebt = b.lebt & ~b.unklar;
         }
     }
@@ -136,7 +136,8 @@ class Zyklenlauf : Spurenlauf<Satz, Formel, mitZwilling, Zyklenregister<Formel>>
     void zielVorziehen(Buendel& b, qint64 stand) const {
         const qint64 abstand = stand - b.gemerktBei;
         if (b.gemerktBei > 0) {
-            const M neu = Lauf::wiederholt(b.s, b.gemerkt) & b.lebt & gleich(b.ziel, M(r.schritte));
+            const M neu =
+                wiederholt(b.s, b.gemerkt, zweiWerte) & b.lebt & gleich(b.ziel, M(r.schritte));
             const qint64 ab = stand + r.zycmax + 1;
             if (eine(neu) && ab < r.schritte) {
                 const M ziel(ab + (r.schritte - ab) % abstand);
