@@ -1,4 +1,4 @@
-# Builds for 64-bit ARM on another machine, against the Debian packages that skripte/arm64.sh lays
+# Builds for 64-bit ARM on another machine, against the Debian packages that skripte/gleichheit.sh lays
 # out in WIRBELWERK_WURZEL, and runs what was built under user-mode emulation.
 list(APPEND CMAKE_TRY_COMPILE_PLATFORM_VARIABLES WIRBELWERK_WURZEL)
 set(CMAKE_SYSTEM_NAME Linux)

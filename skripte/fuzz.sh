@@ -3,7 +3,7 @@
 # LAST [INPUTS] runs the seeds FIRST to LAST with INPUTS inputs each (default 50000). Inputs worth
 # keeping gather in build/fuzzlauf/eingaben, where the next piece goes on. Stops at the first fault; its
 # input lies in build/fuzzlauf then, and build/fuzz/werkzeug/wirbelwerk_fuzz FILE repeats it. The sum of
-# all pieces and the lines of src/files and src/model that no input reached come last.
+# all pieces of the commit and the lines of src/files and src/model that no input reached come last.
 set -euo pipefail
 cd -- "$(dirname -- "${BASH_SOURCE[0]}")/.."
 # shellcheck source=skripte/pakete.sh
@@ -19,9 +19,10 @@ export UBSAN_OPTIONS=print_stacktrace=1
 export LLVM_PROFILE_FILE=build/fuzzlauf/zeilen-%m.profraw # %m: the pieces add up
 TIMEFORMAT='processor time %U s'
 
+stand=$(git rev-parse --short HEAD)
 ergebnis=0
 for ((saat = erste; saat <= letzte; ++saat)); do
-    ausgabe=build/fuzzlauf/saat-$saat
+    ausgabe=build/fuzzlauf/$stand-$saat-$eingaben
     grep -qs '^Done ' "$ausgabe" && continue
     { time "$programm" -runs="$eingaben" -seed="$saat" -max_len=232 -len_control=0 -timeout=60 \
         -rss_limit_mb=4096 -print_final_stats=1 -dict=werkzeug/fuzz.dict \
@@ -37,7 +38,7 @@ llvm-cov show "$programm" -instr-profile=build/fuzzlauf/zeilen -show-instantiati
         /^\// { zeigen(); sub(/.*\/src/, "src"); printf "\n%s", $0; next }
         $2 ~ /^ *0$/ { if (von && $1 + 0 == bis + 1) bis++; else { zeigen(); von = bis = $1 + 0 } }
         END { zeigen(); print "" }' | grep ':.* '
-cat build/fuzzlauf/saat-* | awk '
+cat build/fuzzlauf/"$stand"-* | awk '
     /^Done / { summe += $2 }
     /^processor time/ { dauer += $3 }
     END { printf "%d inputs, %d s of processor time\n", summe, dauer }'

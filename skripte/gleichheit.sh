@@ -13,7 +13,7 @@ cd -- "$(dirname -- "${BASH_SOURCE[0]}")/.."
 # shellcheck source=skripte/pakete.sh
 source skripte/pakete.sh
 
-tests=(test_kerne test_quotient test_zeilenkern test_goldbilder)
+tests=(test_kerne test_quotient test_zeilenkern test_goldbilder test_aufwand)
 wege=(g++-O1 g++-O2 g++-O3 g++-O3-native clang++ arm64)
 arm_wurzel=build/gleichheit/arm64-wurzel
 
@@ -46,8 +46,9 @@ arm_wurzel_anlegen() {
 weg_bauen() {
     local angaben=()
     case $1 in
-    g++-O3-native) angaben=(-DCMAKE_BUILD_TYPE= "-DCMAKE_CXX_FLAGS=-O3 -march=native") ;;
-    g++-O[123]) angaben=(-DCMAKE_BUILD_TYPE= "-DCMAKE_CXX_FLAGS=${1#g++}") ;;
+    g++-O3-native) angaben=(-DCMAKE_BUILD_TYPE= -DCMAKE_CXX_COMPILER=g++
+            "-DCMAKE_CXX_FLAGS=-O3 -march=native") ;;
+    g++-O[123]) angaben=(-DCMAKE_BUILD_TYPE= -DCMAKE_CXX_COMPILER=g++ "-DCMAKE_CXX_FLAGS=${1#g++}") ;;
     clang++) angaben=(-DCMAKE_BUILD_TYPE=Release -DCMAKE_CXX_COMPILER=clang++) ;;
     arm64)
         angaben=(-DCMAKE_BUILD_TYPE=Release -DCMAKE_TOOLCHAIN_FILE=skripte/arm64.cmake

@@ -19,9 +19,12 @@
 #include <QTextStream>
 #include <QTimer>
 
+#include <csignal>
+#include <cstring>
 #include <ctime>
 #include <deque>
 #include <random>
+#include <unistd.h>
 
 namespace {
 
@@ -41,7 +44,15 @@ constexpr double FarbschritteJePixel = 20; ///< what colouring a pixel costs, in
 constexpr double Haenger = 50;             ///< times its share, and a step counts as hanging
 
 std::deque<QString> letzteSchritte;
+std::array<char, 100> jetziger{}; ///< the step that is running, where a signal can read it
 bool fehler = false;
+
+/// A step that never ends: the limit of processor time is used up.
+void zeitlimitMelden(int /*signal*/) {
+    [[maybe_unused]] const auto geschrieben =
+        write(STDERR_FILENO, jetziger.data(), std::strlen(jetziger.data()));
+    _exit(1);
+}
 
 void melden(const QString& text) {
     QTextStream aus(stderr);
@@ -136,6 +147,8 @@ class Dauerlauf {
 
     void merken(int n, const QString& text) {
         letzteSchritte.push_back(QString("%1: %2").arg(n).arg(text));
+        qstrncpy(jetziger.data(), qPrintable("hangs in step " + letzteSchritte.back() + '\n'),
+                 jetziger.size());
         if (letzteSchritte.size() > GezeigteSchritte) {
             letzteSchritte.pop_front();
         }
@@ -275,6 +288,7 @@ int main(int argc, char** argv) {
     const int schritte = worte.size() > 1 ? worte[1].toInt() : 20000;
     const quint32 saat = worte.size() > 2 ? worte[2].toUInt() : 1;
     qInstallMessageHandler(warnungPruefen);
+    std::signal(SIGXCPU, zeitlimitMelden);
     QTextStream(stdout) << schritte << " steps with seed " << saat << '\n';
     Dauerlauf(saat).laufen(schritte);
     QTextStream(stdout) << (fehler ? "stopped at a fault\n" : "no fault\n");
