@@ -36,7 +36,7 @@ Newton's method, 9 and 109 to 909, which begins at the pixel. Even numbers begin
 equation; the Newton equations stand alone. The names are fixed; where a name or a menu entry says
 something else than what is computed, a remark says so.
 
-Settings named on this page are typed into the panel, then **Start!** is pressed; the center is
+Settings named on this page are typed into the panel, then **Start!** is pressed; the centre is
 *Mittelpkt. X* with *Mittelpkt. Y* 0, the width the field below. *Potenzzahl K=7* is
 chosen from the menu *Gleichung/Equation*, before **Start!** as well. The equations for odd K work
 with half of the last odd K, those for even K with half of the last even one.
@@ -77,7 +77,7 @@ inline constexpr auto Familien = std::to_array<Familie>({
 inline constexpr auto Bemerkungen = std::to_array<Bemerkung>({
     {7, "computes `ZS^Z`, the conjugate of the `Z^ZS` in the name. The start picture is the far "
         "field; "
-        "the spider sits at the origin: center 0, width 8."},
+        "the spider sits at the origin: centre 0, width 8."},
     {8, "computes `ZS^Z - 1`, the conjugate of the power in the name. C is always -1, whatever is "
         "typed."},
     {10, "the menu says \"derzeit nicht intakt\", not working at present; it works."},
@@ -85,15 +85,15 @@ inline constexpr auto Bemerkungen = std::to_array<Bemerkung>({
     {112, "at C = -1 little happens; try C-Julia 0.2, 0.9."},
     {206, "at C = -1 most points settle after a few steps; try Mittelpkt. X and Y 0, width 4, "
           "Fakt.Iter. 20."},
-    {208, "almost all points settle or run away at once; try C-Julia X 0.3, center 2, width 8."},
+    {208, "almost all points settle or run away at once; try C-Julia X 0.3, centre 2, width 8."},
     {211, "the menu says `ZS*Z*ZS`; computed is `Z*Zm`, that is `Z*Z*ZS`, as in the title."},
     {212, "as 211 and 112."},
-    {406, "as 206: center 0, width 4, Fakt.Iter. 20."},
-    {407, "the detail is near the origin: center -0.5, width 0.5."},
-    {408, "the detail is farther out: center 5, width 16."},
+    {406, "as 206: centre 0, width 4, Fakt.Iter. 20."},
+    {407, "the detail is near the origin: centre -0.5, width 0.5."},
+    {408, "the detail is farther out: centre 5, width 16."},
     {505, "computes `Z^K`, not `Zq^K`."},
-    {506, "`Z^K` as 505. Flat as 206: center 0, width 3, Fakt.Iter. 20."},
-    {507, "the spots lie to the left: center -4, width 8."},
+    {506, "`Z^K` as 505. Flat as 206: centre 0, width 3, Fakt.Iter. 20."},
+    {507, "the spots lie to the left: centre -4, width 8."},
     {508, "at C = -1 nearly flat; try C-Julia -2.2, 0.1."},
     {512, "at C = -1 flat; try C-Julia 0.2, 0.9."},
     {603,
@@ -101,9 +101,9 @@ inline constexpr auto Bemerkungen = std::to_array<Bemerkung>({
      "try Potenzzahl K=7."},
     {604, "as 603: Potenzzahl K=7."},
     {606, "at C = -1 every point becomes -1 in the first step. With C = i (C-Julia 0, 1) the map "
-          "turns around two centers."},
+          "turns around two centres."},
     {607, "the detail is near the origin: width 1."},
-    {608, "the detail is near the origin: center 0, width 0.3."},
+    {608, "the detail is near the origin: centre 0, width 0.3."},
     {611, "for odd K only; at the start its formula is that of 605. Try Potenzzahl K=7."},
     {612, "for odd K only; at the start its formula is that of 606. Try Potenzzahl K=7."},
     {703, "for odd K only. At the start its formula is Z = ZS + C; try Potenzzahl K=7."},

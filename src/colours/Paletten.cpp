@@ -18,7 +18,7 @@ constexpr quint8 byteAus(double wert) { return static_cast<quint8>(trunc32(wert)
 // --- Spectral palette ----------------------------------------------------------------------------
 
 /// One band of the spectrum: each channel is (welle - ab) / breite, or constant where breite is 0.
-struct Verlauf {
+struct Flanke {
     double ab, breite;
     [[nodiscard]] constexpr double bei(double welle) const {
         return breite == 0.0 ? ab : (welle - ab) / breite;
@@ -26,11 +26,11 @@ struct Verlauf {
 };
 struct Band {
     double bis; ///< last wavelength, nm, inclusive
-    std::array<Verlauf, Kanaele> kanaele;
+    std::array<Flanke, Kanaele> kanaele;
 };
 
-constexpr Verlauf Aus{0.0, 0.0};
-constexpr Verlauf Voll{1.0, 0.0};
+constexpr Flanke Aus{0.0, 0.0};
+constexpr Flanke Voll{1.0, 0.0};
 
 constexpr std::array<Band, 6> Spektrum{{
     {440.0, {{{440.0, -60.0}, Aus, Voll}}},

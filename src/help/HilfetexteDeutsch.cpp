@@ -72,7 +72,7 @@ danach, wie genau sie sich schließen.<br>
 Gerechnet werden höchstens maxIter - 1 Schritte, am Anfang 255. Vorher bricht die Rechnung ab,
 sobald<br>
 &nbsp;&nbsp;&nbsp;rq = x*x + y*y &nbsp;(mit Z = x + i*y)<br>
-ZahlAbbr erreicht, eine Zahl im Bedienfeld. Bei dieser Gleichung würde 4 genügen: Wer weiter als 2
+ZahlAbbr erreicht, eine Zahl im Steuerfeld. Bei dieser Gleichung würde 4 genügen: Wer weiter als 2
 vom Nullpunkt entfernt ist, kehrt nicht zurück. Der Vorgabewert 400, also Abstand 20, kostet nur
 wenige Schritte mehr. Dafür fällt C neben Z*Z kaum noch ins Gewicht, und die aus rq gebildeten
 Farben verlaufen weicher.<br>
@@ -130,7 +130,7 @@ Farbtafeln nebeneinander.)html")};
 constexpr Hilfetext Gleichungen{QT_TRANSLATE_NOOP("UI", "Zur Auswahl der Gleichung"),
                                 QT_TRANSLATE_NOOP("UI", R"html(<b>Wählen, dann „Start!“</b><br>
 Eine Wahl im Menü „Gleichung/Equation“ zeichnet nur eine kleine Vorschau in eine Ecke; Klicks ins
-Bild gelten so lange nicht. Erst „Start!“ rechnet das Bild. Oder: die Nummer oben im Bedienfeld
+Bild gelten so lange nicht. Erst „Start!“ rechnet das Bild. Oder: die Nummer oben im Steuerfeld
 eintippen und „Start!“ drücken. Das erste Bild nach dem Programmstart ist nur ein Viertel; im Menü
 „Groesse/Size“ macht „Aktives zum vollem Bild/FullPicture“ es groß.<br>
 Die anderen Einstellungen bleiben, auch Ausschnitt und Farben; so lassen sich Gleichungen
@@ -317,7 +317,8 @@ Menge irrt der Weg oft lange umher, ehe er sich entscheidet.<br>
 &nbsp;&nbsp;&nbsp;„maximal 120“ bis „maximal 5“: weniger Punkte statt der vollen 256<br>
 &nbsp;&nbsp;&nbsp;„Alle Orbit anzeigen“: sammelt alle Wege, bis der Speicher gelöscht wird<br>
 &nbsp;&nbsp;&nbsp;„Orbit erst ab Iterat.(= ZOOM) EIN“: überspringt den Anfang des Weges. Zuvor die
-Zahl, etwa 100, bei Zoom eintippen und „Start!“ drücken.<br>
+Zahl, etwa 100, bei Zoom eintippen und zweimal „Start!“ drücken: Das erste Mal kann noch einen neuen
+Orbit zeichnen, und der setzt Zoom auf 1.<br>
 &nbsp;&nbsp;&nbsp;„Orbit-Start vom Bild-Mittelpunkt“: beginnt genau in der Bildmitte. So lässt sich
 ein Startpunkt auf alle Stellen genau eintippen und auch bei anderer Vergrößerung verfolgen.<br>
 <br>
@@ -329,7 +330,7 @@ in dem das Programm gestartet wurde. Darin lassen sich Zyklen Stelle für Stelle
 <br>
 <b>Ausschalten</b><br>
 „Orbit AUS/STOP“. Auch ein Befehl, der den Ausschnitt ändert, schaltet den angeklickten Orbit ab;
-eine Meldung sagt es. Jeder neue Orbit setzt Zoom auf 1, im Bedienfeld steht das vom nächsten Klick
+eine Meldung sagt es. Jeder neue Orbit setzt Zoom auf 1, im Steuerfeld steht das vom nächsten Klick
 an; das Ausschalten setzt 0.5.)html")};
 
 constexpr Hilfetext FarbTab{
@@ -500,8 +501,9 @@ größer.</td></tr>
 <b>Zyklen in Farbe</b><br>
 Besonders lohnend ist NrAbbruch 4 oder 5 mit größerem ZahlAbbr, etwa 2000: Dann sagt rq, ob ein
 Zyklus gefunden wurde, und bei 5 bekommt jede Zykluslänge ihre eigene Farbe, am schönsten mit cTab
-24. Nur Länge 7 sieht mit den Paletten 2 und 3 am Anfang wie keine aus: 681 * 100 führt auf Platz 6,
-kein Zyklus auf Platz 0.<br>
+24. Leicht zu verwechseln sind dort nur die Längen 1 und 5 (Platz 258 und 284), und mit den
+Paletten 2 und 3 sieht Länge 7 am Anfang wie keine aus: 681 * 100 führt auf Platz 6, kein Zyklus auf
+Platz 0.<br>
 „varKonv +1“ und „varKonv -1“ laufen im Kreis von 0 bis 12. Neu gerechnet wird dabei
 nichts.)html")};
 

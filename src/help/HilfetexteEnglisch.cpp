@@ -312,7 +312,8 @@ the border of the set, the path often wanders about for a long time before it de
 &nbsp;&nbsp;&nbsp;"maximal 120" to "maximal 5": fewer points instead of the full 256<br>
 &nbsp;&nbsp;&nbsp;"Alle Orbit anzeigen": collects all paths until the store is deleted<br>
 &nbsp;&nbsp;&nbsp;"Orbit erst ab Iterat.(= ZOOM) EIN": skips the beginning of the path. Before that,
-type the number, say 100, for Zoom and press "Start!".<br>
+type the number, say 100, for Zoom and press "Start!" twice: the first time may still draw a new
+orbit, which sets Zoom to 1.<br>
 &nbsp;&nbsp;&nbsp;"Orbit-Start vom Bild-Mittelpunkt": begins exactly at the center of the picture.
 So a starting point can be typed in to the last digit, and followed at another magnification
 too.<br>
@@ -494,8 +495,8 @@ larger.</td></tr>
 <b>Cycles in color</b><br>
 NrAbbruch 4 or 5 with a larger ZahlAbbr, say 2000, is especially rewarding: rq then tells whether a
 cycle was found, and with 5 every cycle length gets a color of its own, most beautifully with cTab
-24. Only length 7 looks like none at first with palettes 2 and 3: 681 * 100 leads to place 6, no
-cycle to place 0.<br>
+24. Only the lengths 1 and 5 are easily confused there (places 258 and 284), and with palettes 2 and
+3 length 7 looks like none at first: 681 * 100 leads to place 6, no cycle to place 0.<br>
 "varKonv +1" and "varKonv -1" run in a circle from 0 to 12. Nothing is calculated anew.)html")};
 
 } // namespace
