@@ -9,19 +9,16 @@
 
 namespace {
 
-/// Counts the paints of the picture and swallows them: nothing is computed. It writes the count
-/// where a paint writes the equation's name, which the title shows.
+/// Counts the paints of the picture and swallows them: nothing is computed.
 class Bildzaehler : public QObject {
   public:
     int anzahl = 0;
 
   protected:
-    bool eventFilter(QObject* bild, QEvent* ereignis) override {
-        if (ereignis->type() != QEvent::Paint) {
-            return false;
-        }
-        static_cast<Mandelbrot*>(bild)->g_NameGlg = QString("name %1").arg(++anzahl);
-        return true;
+    bool eventFilter(QObject* /*bild*/, QEvent* ereignis) override {
+        const bool paint = ereignis->type() == QEvent::Paint;
+        anzahl += paint ? 1 : 0;
+        return paint;
     }
 };
 
@@ -148,18 +145,6 @@ class TestBefehle : public QObject {
         QCoreApplication::removeTranslator(&uebersetzer);
         QCOMPARE('"' + fenster.windowTitle() + '"', soll.toLower());
         QCOMPARE(fenster.Menge->g_NameGlg, "105: z=(z+c)/(1+c*z^3) complex vierpol");
-    }
-
-    void titelNachDemBild() {
-        anfangen("g_OrbitJa=0 Schieber=0");
-        fenster.Menge->g_NameGlg = "before";
-        fenster.NeueBerechnungSlot();
-        QVERIFY(fenster.windowTitle().contains(">> before <<"));
-        QTRY_VERIFY(fenster.windowTitle().contains(">> name 1 <<"));
-        fenster.update(); // alone, it reaches the picture and leaves the title
-        QTRY_COMPARE(bilder.anzahl, 2);
-        QTest::qWait(0);
-        QVERIFY(fenster.windowTitle().contains(">> name 1 <<"));
     }
 
     /// A quarter shows the parameters that were stored, clearing discards them; start settings.
