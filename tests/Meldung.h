@@ -2,8 +2,6 @@
 
 #include "Testbasis.h"
 
-#include <QTimer>
-
 /// The message boxes that a step opened.
 struct Meldung {
     int anzahl = 0;

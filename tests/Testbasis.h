@@ -6,8 +6,14 @@
 
 #include <QSignalSpy>
 #include <QTest>
+#include <QTimer>
 
+#include <algorithm>
+#include <bit>
+#include <functional>
 #include <initializer_list>
+#include <memory>
+#include <random>
 
 /// Language, scale, fonts and style of the machine reach no test.
 inline const bool g_Umgebung = [] {

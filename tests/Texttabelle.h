@@ -5,8 +5,6 @@
 
 #include <QFile>
 
-#include <memory>
-
 // Plain-text tables of cases that set and compare the model's fields by name.
 
 /// The numbers of "Feld=Zahl Feld=Zahl", among them inf and nan.
@@ -22,10 +20,11 @@ inline std::map<QString, double> zahlen(const QString& werte) {
     return zahlen;
 }
 
-inline QList<int> ganze(const QString& text) {
-    QList<int> werte;
-    for (const QString& wort : text.split(' ')) {
-        werte << wort.toInt();
+template <class Zahl = int>
+QList<Zahl> liste(const QString& text) {
+    QList<Zahl> werte;
+    for (const QString& wort : text.split(' ', Qt::SkipEmptyParts)) {
+        werte << static_cast<Zahl>(wort.toDouble());
     }
     return werte;
 }

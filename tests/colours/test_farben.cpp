@@ -7,14 +7,6 @@ namespace {
 
 using Zahlen = QList<double>;
 
-Zahlen liste(const QString& text) {
-    Zahlen liste;
-    for (const QString& wort : text.split(' ', Qt::SkipEmptyParts)) {
-        liste << wort.toDouble();
-    }
-    return liste;
-}
-
 qint32 ganz(double wert) { return static_cast<qint32>(wert); }
 quint32 natuerlich(double wert) { return static_cast<quint32>(wert); }
 
@@ -91,7 +83,7 @@ class TestFarben : public QObject {
     void werte_data() { zeilenAus("colours/farben.txt"); }
     void werte() {
         QFETCH(QStringList, spalten);
-        QCOMPARE(Tafel.at(spalten[0])(*m, liste(spalten[1])), liste(spalten[2]));
+        QCOMPARE(Tafel.at(spalten[0])(*m, liste<double>(spalten[1])), liste<double>(spalten[2]));
     }
 };
 

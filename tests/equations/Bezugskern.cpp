@@ -1,10 +1,10 @@
 #include "Bezugskern.h"
 
+#include "equations/Gleichungen.h"
+
 #if !defined(__x86_64__)
 #include "equations/formeln/Quotient.h"
 #endif
-
-#include <algorithm>
 
 namespace {
 
@@ -18,69 +18,56 @@ C durch(C z, C n) { return geteilt(z, n); }
 C hoch(C z, qint32 n) { return hochGanz(z, n); }
 #endif
 
+C abgerueckt(C v, double g) {
+    const auto teil = [g](double t) { return std::fabs(t) < g ? (t < 0 ? -g : g) : t; };
+    return {teil(v.real()), teil(v.imag())};
+}
+
 } // namespace
 
 std::unique_ptr<M> kernmodell() {
     auto m = std::make_unique<M>();
-    m->g_Max_glg_Abbruch = 9;
-    m->glg_Abbruch = 1;
-    m->wert_Abbruch = 400.0;
-    m->g_zycmax = 7;
-    m->g_Max_rgbFarben = 582;
-    m->g_Genauigkeit = 0.0001;
     m->Orbitmodus = 0;
-    m->g_kPotenz = 10;
-    m->kPotHg = 5;
-    m->kPotHu = 4;
-    m->Koppl_x = 0.2;
-    m->Koppl_y = 0.1;
-    m->CJ_x = -0.7;
-    m->CJ_y = 0.2;
-    m->Max_Iterationen = 256;
-    m->wahl_Gleichung = 1;
+    setze(*m, "wahl_Gleichung=1 g_Max_glg_Abbruch=9 glg_Abbruch=1 wert_Abbruch=400 g_zycmax=7 "
+              "g_Max_rgbFarben=582 g_Genauigkeit=0.0001 g_kPotenz=10 kPotHg=5 kPotHu=4 Koppl_x=0.2 "
+              "Koppl_y=0.1 CJ_x=-0.7 CJ_y=0.2 Max_Iterationen=256");
     return m;
 }
 
+void alleGleichungen() {
+    QTest::addColumn<qint32>("gleichung");
+    for (const Gleichung& gleichung : gleichungen()) {
+        QTest::addRow("%d", gleichung.nummer) << gleichung.nummer;
+    }
+}
+
 void uebertragen(const M& von, M& nach) {
-    const auto kopieren = [&](const auto& felder) {
-        for (const auto feld : felder) {
-            nach.*feld = von.*feld;
-        }
-    };
-    kopieren(Ganze);
-    kopieren(Reelle);
-    kopieren(Verlaeufe);
+    const auto kopieren = [&](const auto feld) { nach.*feld = von.*feld; };
+    std::ranges::for_each(Ganze, kopieren);
+    std::ranges::for_each(Reelle, kopieren);
+    std::ranges::for_each(Verlaeufe, kopieren);
 }
 
 QString unterschied(const M& ist, const M& soll) {
-    for (const auto feld : Ganze) {
-        if (ist.*feld != soll.*feld) {
-            return QString("whole number %1 instead of %2").arg(ist.*feld).arg(soll.*feld);
-        }
-    }
-    for (const auto feld : Reelle) {
+    QString text;
+    const auto vergleichen = [&](const auto feld) {
         if (!bitgleich(ist.*feld, soll.*feld)) {
-            return QString("number %1 instead of %2").arg(ist.*feld).arg(soll.*feld);
+            text += QString("%1 instead of %2; ").arg(ist.*feld).arg(soll.*feld);
         }
-    }
-    const bool verlauf = std::ranges::all_of(Verlaeufe, [&](const auto feld) {
+    };
+    std::ranges::for_each(Ganze, vergleichen);
+    std::ranges::for_each(Reelle, vergleichen);
+    const auto gleich = [&](const auto feld) {
         return std::ranges::equal(ist.*feld, soll.*feld, bitgleich);
-    });
-    return verlauf ? QString() : QString("history");
+    };
+    return std::ranges::all_of(Verlaeufe, gleich) ? text : text + "history";
 }
 
 double Bezugskern::betrag() {
-    const double x = z.real(), y = z.imag(), h = x * x - y * y;
-    const double masse[] = {std::sqrt(x * x + y * y),
-                            x * x + y * y,
-                            std::fabs(x) + std::fabs(y),
-                            x + y,
-                            0.0,
-                            0.0,
-                            h,
-                            h * h,
-                            h * h * h,
-                            h * h * h * h};
+    const double x = z.real(), y = z.imag(), h = x * x - y * y, r = x * x + y * y;
+    const double masse[] = {
+        std::sqrt(r), r, std::fabs(x) + std::fabs(y), x + y, 0.0, 0.0, h, h * h, h * h * h,
+        h * h * h * h};
     const bool delta = m.glg_Abbruch == 4;
     m.g_GenauJa = delta || m.glg_Abbruch == 5 ? 1 : 0;
     if (m.g_GenauJa == 0) {
@@ -106,42 +93,24 @@ C Bezugskern::gekoppelt(C v, C k, double vorzeichen) const {
     const double kx = vorzeichen * m.Koppl_x, ky = vorzeichen * m.Koppl_y;
     const C eins(1, 0), schraeg(1, 1), produkt = C(kx, ky) * v;
     const double x = v.real(), y = v.imag(), a = k.real(), b = k.imag();
-    switch (gleichung > 99 ? m.g_ZwillingJa : 0) { // in complex arithmetic alone
-    case 4:
-        return k + produkt;
-    case 5:
-        return k * (eins + kx * v);
-    case 7:
-        return k * (schraeg + kx * v);
-    case 8:
-        return k * (eins + produkt);
-    case 9:
-        return k * (schraeg + produkt);
-    case 10:
-        return k * (schraeg + vorzeichen * produkt);
-    case 11:
-        return k * (schraeg - vorzeichen * produkt);
-    default:
-        break;
-    }
+    const bool komplex = gleichung > 99; // in complex arithmetic alone
     const bool auge = vorzeichen > 0 && (gleichung == 3 || gleichung == 4);
-    switch (m.g_ZwillingJa) {
-    case 1:
-        return {kx * x + a, ky * y + b};
-    case 2:
-        return {(1 + m.Koppl_x * x) * a, (1 - m.Koppl_y * y) * b};
-    case 3:
-        return {(1 + kx * x) * a, (1 + ky * y) * b};
-    case 4:
-        return k + produkt;
-    case 5:
-        return auge ? C((1 + produkt.real()) * a, (1 + produkt.imag()) * b)
-                    : C(a * kx * x - b * kx * y + a, b * kx * x + a * kx * y + b);
-    case 6:
-        return {a * kx * x - b * kx * y + a, b * ky * x + a * ky * y + b};
-    default:
-        return k;
-    }
+    const C formeln[] = {k,
+                         {kx * x + a, ky * y + b},
+                         {(1 + m.Koppl_x * x) * a, (1 - m.Koppl_y * y) * b},
+                         {(1 + kx * x) * a, (1 + ky * y) * b},
+                         k + produkt,
+                         komplex ? k * (eins + kx * v)
+                         : auge  ? C((1 + produkt.real()) * a, (1 + produkt.imag()) * b)
+                                 : C(a * kx * x - b * kx * y + a, b * kx * x + a * kx * y + b),
+                         {a * kx * x - b * kx * y + a, b * ky * x + a * ky * y + b},
+                         k * (schraeg + kx * v),
+                         k * (eins + produkt),
+                         k * (schraeg + produkt),
+                         k * (schraeg + vorzeichen * produkt),
+                         k * (schraeg - vorzeichen * produkt)};
+    const qint32 art = m.g_ZwillingJa;
+    return art > 0 && art <= (komplex ? 11 : 6) ? formeln[art] : k;
 }
 
 C Bezugskern::term(C u) const {
@@ -245,15 +214,6 @@ Bezugskern::Schritt Bezugskern::schritt() {
     }
     return gut ? Schritt::Gut : Schritt::Abbruch;
 }
-
-namespace {
-
-C abgerueckt(C v, double g) {
-    const auto teil = [g](double t) { return std::fabs(t) < g ? (t < 0 ? -g : g) : t; };
-    return {teil(v.real()), teil(v.imag())};
-}
-
-} // namespace
 
 void Bezugskern::newtonVorbereiten(C start, C konstante) {
     const C pixel = abgerueckt(start, 1e-20), k = abgerueckt(konstante, 1e-20);

@@ -1,11 +1,6 @@
 #pragma once
 
-#include "Felder.h"
-#include "Testbasis.h"
-
-#include <bit>
-#include <complex>
-#include <memory>
+#include "Texttabelle.h"
 
 using C = std::complex<double>;
 
@@ -27,6 +22,8 @@ inline constexpr decltype(&M::xm) Verlaeufe[] = {&M::xm, &M::ym, &M::pm, &M::tm}
 /// A model with plain settings that the tests vary.
 [[nodiscard]] std::unique_ptr<M> kernmodell();
 void uebertragen(const M& von, M& nach);
+/// Makes the catalogue's numbers the test rows, column "gleichung".
+void alleGleichungen();
 /// Empty when all of the above is equal to the bit, else what is not.
 [[nodiscard]] QString unterschied(const M& ist, const M& soll);
 

@@ -3,8 +3,6 @@
 #include "equations/Zeilenkern.h"
 #include "Testbasis.h"
 
-#include <bit>
-#include <memory>
 #include <numeric>
 
 /// What a picture costs, told without a clock: pixels in lanes, and steps really made.

@@ -42,36 +42,19 @@ class TestStartwerte : public QObject {
 
     // The first time all pictures and lists are emptied, later none.
     void ersterAufruf() {
-        const std::vector<double*> reelle{&m->ImageDoubles[1200][1199],
-                                          &m->ImageViertelDoubles[300][299],
-                                          &m->UnDo0Doubles[299],
-                                          &m->UnDo1Doubles[0],
-                                          &m->UnDo2Doubles[0],
-                                          &m->UnDo3Doubles[0],
-                                          &m->UnDo4Doubles[0],
-                                          &m->OrbitX[258],
-                                          &m->OrbitY[258]};
-        const std::vector<qint32*> ganze{
-            &m->ImageIntegers[0][0],        &m->ImageGitterIntegers[1][0],
-            &m->ImageViertelIntegers[0][5], &m->ImageViertelGitterIntegers[7][0],
-            &m->UnDo0Integers[299],         &m->UnDo4Integers[0]};
-        for (const int erstesMal : {0, 1}) {
-            for (double* wert : reelle) {
-                *wert = 1.0;
-            }
-            for (qint32* wert : ganze) {
-                *wert = 1;
-            }
-            m->initIstdurchJa = 1 - erstesMal;
+        const auto zellen = std::tie(
+            m->ImageDoubles[1200][1199], m->ImageViertelDoubles[300][299], m->UnDo0Doubles[299],
+            m->UnDo1Doubles[0], m->UnDo2Doubles[0], m->UnDo3Doubles[0], m->UnDo4Doubles[0],
+            m->OrbitX[258], m->OrbitY[258], m->ImageIntegers[0][0], m->ImageGitterIntegers[1][0],
+            m->ImageViertelIntegers[0][5], m->ImageViertelGitterIntegers[7][0],
+            m->UnDo0Integers[299], m->UnDo4Integers[0]);
+        for (const int soll : {0, 1}) {
+            std::apply([](auto&... zelle) { ((zelle = 1), ...); }, zellen);
+            m->initIstdurchJa = soll;
             m->g_halbesBild = ViertelRechtsOben;
             m->Initialisierung();
-            for (const double* wert : reelle) {
-                QCOMPARE(*wert, erstesMal == 1 ? 0.0 : 1.0);
-            }
-            for (const qint32* wert : ganze) {
-                QCOMPARE(*wert, 1 - erstesMal);
-            }
-            QCOMPARE(m->g_halbesBild, erstesMal ? ViertelLinksOben : ViertelRechtsOben);
+            QVERIFY(std::apply([&](auto... zelle) { return ((zelle == soll) && ...); }, zellen));
+            QCOMPARE(m->g_halbesBild, soll == 0 ? ViertelLinksOben : ViertelRechtsOben);
             QCOMPARE(m->initIstdurchJa, 1);
         }
     }

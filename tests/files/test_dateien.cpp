@@ -3,7 +3,7 @@
 #include "equations/Gleichungen.h"
 #include "files/Bilddaten.h"
 #include "files/Dateiausgabe.h"
-#include "Testbasis.h"
+#include "Texttabelle.h"
 #include "UI_Hauptfenster.h"
 
 #include <QBuffer>
@@ -12,10 +12,6 @@
 #include <QRandomGenerator>
 #include <QTemporaryDir>
 #include <QtEndian>
-#include <QTimer>
-
-#include <functional>
-#include <memory>
 
 #ifdef Q_OS_LINUX
 #include <csignal>
@@ -56,11 +52,9 @@ int stelle(int i) { return i < Ganze ? 4 * i : 104 + 8 * (i - Ganze); }
 QByteArray datei(const Inhalt& werte) {
     QByteArray bytes(216, '\0');
     for (int i = 0; i < Alle; ++i) {
-        if (i < Ganze) {
-            qToLittleEndian(static_cast<qint32>(werte[i]), bytes.data() + stelle(i));
-        } else {
-            qToLittleEndian(werte[i], bytes.data() + stelle(i));
-        }
+        char* const zahl = bytes.data() + stelle(i);
+        i < Ganze ? qToLittleEndian(static_cast<qint32>(werte[i]), zahl)
+                  : qToLittleEndian(werte[i], zahl);
     }
     return bytes;
 }
@@ -117,14 +111,12 @@ QByteArray bytesVon(const QString& name) {
     return quelle.open(QIODevice::ReadOnly) ? quelle.readAll() : QByteArray();
 }
 
-/// The name with a time of the last seconds in it; von is a moment before it was made.
-QString mitZeit(const QString& anfang, const QString& format, const QString& ende, QDateTime von,
-                const QString& name) {
-    QString soll;
-    for (; soll != name && von <= QDateTime::currentDateTime(); von = von.addSecs(1)) {
-        soll = anfang + von.toString(format) + ende;
+/// The name when its format makes it of a time since von, else another.
+QString mitZeit(const QString& format, QDateTime von, const QString& name) {
+    while (von.toString(format) != name && von <= QDateTime::currentDateTime()) {
+        von = von.addSecs(1);
     }
-    return soll;
+    return von.toString(format);
 }
 
 /// Answers every modal dialog that opens while it lives, and notes what it showed. File dialogs get
@@ -133,25 +125,19 @@ QString mitZeit(const QString& anfang, const QString& format, const QString& end
 struct Dialogfuehrer {
     explicit Dialogfuehrer(
         const QString& name, const std::function<void()>& danach = [] {}, int filter = 0) {
-        QObject::connect(&uhr, &QTimer::timeout, &uhr, [=, this] {
+        const auto antworten = [=, this] {
             QWidget* const modal = QApplication::activeModalWidget();
             if (auto* box = qobject_cast<QMessageBox*>(modal)) {
                 gezeigt << box->windowTitle() << box->text();
                 eltern << box->parentWidget();
-                box->accept();
+                auto* const ja = box->button(QMessageBox::Yes);
+                (ja != nullptr ? ja : box->button(QMessageBox::Ok))->click();
             } else if (auto* dialog = qobject_cast<QFileDialog*>(modal)) {
                 auto* zeile = dialog->findChild<QLineEdit*>("fileNameEdit");
                 gezeigt << dialog->windowTitle() << zeile->text() << dialog->nameFilters()
                         << (dialog->acceptMode() == QFileDialog::AcceptSave ? "save" : "open");
                 eltern << dialog->parentWidget();
                 dialog->selectNameFilter(dialog->nameFilters().at(filter));
-                QTimer::singleShot(0, dialog, [this] {
-                    auto* frage = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-                    if (frage != nullptr) {
-                        gezeigt << frage->text();
-                        frage->button(QMessageBox::Yes)->click();
-                    }
-                });
                 QObject::connect(dialog, &QDialog::accepted, dialog, danach);
                 zeile->setText(name);
                 static_cast<QDialog*>(dialog)->accept();
@@ -159,12 +145,13 @@ struct Dialogfuehrer {
                     dialog->reject();
                 }
             }
-        });
+        };
+        // Queued, since a timer rests while its own slot runs, and an answer may open a question.
+        QObject::connect(&uhr, &QTimer::timeout, &uhr, antworten, Qt::QueuedConnection);
         uhr.start(1);
     }
 
-    /// Title, suggested name, filters, save or open, question; of a box title, text.
-    QStringList gezeigt;
+    QStringList gezeigt; ///< title, suggested name, filters, save or open; of boxes title, text
     QList<QWidget*> eltern;
     QTimer uhr;
 };
@@ -227,133 +214,95 @@ class TestDateien : public QObject {
         }
     }
 
+    /// What the dialogs show; cancelled, they change nothing.
+    void dialoge_data() { zeilenAus("files/dialoge.txt"); }
+    void dialoge() {
+        QFETCH(QStringList, spalten);
+        fenster.Menge->g_RechnenJa = 0;
+        const QDateTime von = QDateTime::currentDateTime();
+        const Dialogfuehrer fuehrer("");
+        QVERIFY(QMetaObject::invokeMethod(&fenster, qPrintable(spalten[0])));
+        spalten[2] = mitZeit(spalten[2], von, fuehrer.gezeigt.value(1));
+        QCOMPARE(fuehrer.gezeigt, spalten.mid(1));
+        QCOMPARE(fuehrer.eltern, QList<QWidget*>{&fenster});
+        QVERIFY(inhalt(fenster) == beispiel());
+        QCOMPARE(fenster.Menge->g_RechnenJa, 0);
+    }
+
     void speichernUndLaden() {
-        const QString name = pfad("bild.fraktal");
         Inhalt werte = beispiel();
         werte[3] = 1010003; // equation 101 with twin 3
         werte[8] = 0;
         werte[19] = 12; // a preview, left as it is by a request with orbit
         lesen(fenster, datei(werte));
-        const QDateTime von = QDateTime::currentDateTime();
-        Dialogfuehrer fuehrer(name);
+        const Dialogfuehrer fuehrer(pfad("bild.fraktal"));
         fenster.Koordinaten_SpeichernSlot();
-        QCOMPARE(bytesVon(name), datei(werte).left(200));
-        QCOMPARE(fuehrer.gezeigt[1], mitZeit("DatenWirbel1.5", "-yyyyMMdd-hh-mm-ss", ".fraktal",
-                                             von, fuehrer.gezeigt[1]));
-
+        QCOMPARE(bytesVon(pfad("bild.fraktal")), datei(werte).left(200));
         lesen(fenster, datei(Inhalt(Alle, 1)));
         fenster.Koordinaten_LadenSlot();
-        QCOMPARE(fuehrer.gezeigt,
-                 QStringList({"Bilddaten speichern", fuehrer.gezeigt[1], "DatenWirbel (*.fraktal)",
-                              "Alle Dateien (*.*)", "save", "Bilddaten laden", "Bilddaten.fraktal",
-                              "Bilddaten (*.fraktal)", "Alle Dateien (*.*)", "open"}));
         // The values reach the model through the panel, as with "Start!".
         QCOMPARE(fenster.Menge->wahl_Gleichung, 101);
         QCOMPARE(fenster.Menge->g_halbesBild, ViertelvorschauRechtsOben);
         QCOMPARE(fenster.Menge->MP_x, werte[Ganze]);
     }
 
-    // An ending is added where none is, in the dialog: the question is about the final name.
-    void endungen_data() {
-        QTest::addColumn<QStringList>("worte"); // typed; name of the picture and of the data
-        for (const QString zeile :
-             {"a a.png a.fraktal", "a.b a.b a.b", "x.jpg x.jpg x.jpg", "v1.5 v1.5.png v1.5.fraktal",
-              "DatenWirbel1.5-2026 DatenWirbel1.5-2026.png DatenWirbel1.5-2026.fraktal",
-              "größe.ö2345678 größe.ö2345678 größe.ö2345678",
-              "x.abcdefghi x.abcdefghi.png x.abcdefghi.fraktal"}) {
-            QTest::newRow(qPrintable(zeile)) << zeile.split(' ');
-        }
+    void bildSpeichern() {
+        fenster.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&fenster));
+        const Dialogfuehrer fuehrer(pfad("bild.png"));
+        fenster.Bild_SpeichernSlot();
+        QVERIFY(bytesVon(pfad("bild.png")).startsWith("\x89PNG"));
+        QCOMPARE(QImage(pfad("bild.png")).convertToFormat(QImage::Format_RGB32),
+                 fenster.Menge->grab().toImage().convertToFormat(QImage::Format_RGB32));
     }
+
+    // An ending is added where none is, in the dialog: the question is about the final name.
+    void endungen_data() { zeilenAus("files/endungen.txt"); }
     void endungen() {
-        QFETCH(QStringList, worte);
+        QFETCH(QStringList, spalten);
         for (const int filter : {0, 1}) {
-            for (const auto& [soll, slot] : {std::pair(worte[1], &UI::Bild_SpeichernSlot),
-                                             std::pair(worte[2], &UI::Koordinaten_SpeichernSlot)}) {
+            for (const auto& [soll, slot] :
+                 {std::pair(spalten[1], &UI::Bild_SpeichernSlot),
+                  std::pair(spalten[2], &UI::Koordinaten_SpeichernSlot)}) {
                 ordner = std::make_unique<QTemporaryDir>();
                 QVERIFY(dateiSchreiben(pfad(soll), "alt"));
                 const Dialogfuehrer fuehrer(
-                    pfad(worte[0]), [] {}, filter);
+                    pfad(spalten[0]), [] {}, filter);
                 (fenster.*slot)();
-                QCOMPARE(fuehrer.gezeigt.size(), 6);
-                QVERIFY(fuehrer.gezeigt[5].startsWith(soll + " already exists"));
+                QCOMPARE(fuehrer.gezeigt.size(), 7);
+                QVERIFY(fuehrer.gezeigt[6].startsWith(soll + " already exists"));
                 QCOMPARE(dateien(), QStringList(soll));
                 QVERIFY(bytesVon(pfad(soll)) != "alt");
             }
         }
     }
 
-    void fehler_data() {
-        QTest::addColumn<QStringList>("worte"); // name; what becomes of it while the dialog is open
-        for (const QString zeile : {"load bild.x gone", "load bild.x folder",
-                                    "save fehlt/bild.x no-folder", "save bild.x folder"}) {
-            QTest::newRow(qPrintable(zeile)) << zeile.split(' ');
-        }
-    }
+    void fehler_data() { zeilenAus("files/fehler.txt"); }
     void fehler() {
-        QFETCH(QStringList, worte);
-        const bool laden = worte[0] == "load", wirdOrdner = worte[2] == "folder";
-        const QString name = pfad(worte[1]);
-        QList<void (UI::*)()> wege{&UI::Koordinaten_SpeichernSlot, &UI::Bild_SpeichernSlot};
-        if (laden) {
-            wege = {&UI::Koordinaten_LadenSlot};
-            QVERIFY(dateiSchreiben(name, "x"));
-        }
-        for (const auto slot : wege) {
-            QDir().rmdir(name);
-            const Dialogfuehrer fuehrer(name, [&] {
-                QFile::remove(name);
-                QVERIFY(!wirdOrdner || QDir().mkdir(name));
-            });
-            (fenster.*slot)();
-            QCOMPARE(
-                fuehrer.gezeigt.mid(5),
-                QStringList({"Es ist ein Fehler aufgetreten!",
-                             QString("Es ist ein Fehler beim %1 der Datei:\n\n%2\n\naufgetreten!")
-                                 .arg(laden ? "laden" : "speichern", name)}));
-            QCOMPARE(fuehrer.eltern, QList<QWidget*>({&fenster, nullptr}));
-            QCOMPARE(fenster.UI_MPx->value(), laden ? -0.5 : beispiel()[Ganze]); // start picture
-            QCOMPARE(dateien(), QStringList());
-        }
-    }
-
-    void abbrechen() {
-        fenster.Menge->g_RechnenJa = 0;
-        Dialogfuehrer fuehrer("");
-        fenster.Koordinaten_SpeichernSlot();
-        fenster.Koordinaten_LadenSlot();
-        fenster.Bild_SpeichernSlot();
-        QCOMPARE(fuehrer.eltern, QList<QWidget*>(3, &fenster));
-        QVERIFY(inhalt(fenster) == beispiel());
-        QCOMPARE(fenster.Menge->g_RechnenJa, 0);
-        QVERIFY(QDir(ordner->path()).isEmpty());
-    }
-
-    void bildSpeichern() {
-        fenster.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&fenster));
-        const QString name = pfad("bild.png");
-        const QDateTime von = QDateTime::currentDateTime();
-        Dialogfuehrer fuehrer(name);
-        fenster.Bild_SpeichernSlot();
-        QCOMPARE(fuehrer.gezeigt[1],
-                 mitZeit("Fraktal", "yyMMdd-hh-mm-ss", ".png", von, fuehrer.gezeigt[1]));
-        QCOMPARE(fuehrer.gezeigt,
-                 QStringList({"Bild speichern", fuehrer.gezeigt[1], "PNG-Bilder (*.png)",
-                              "Alle Dateien (*.*)", "save"}));
-        QVERIFY(bytesVon(name).startsWith("\x89PNG"));
-        const QImage bild = fenster.Menge->grab().toImage().convertToFormat(QImage::Format_RGB32);
-        QCOMPARE(QImage(name).convertToFormat(QImage::Format_RGB32), bild);
+        QFETCH(QStringList, spalten);
+        const QString name = pfad(spalten[1]);
+        const bool laden = spalten[3] == "laden";
+        QVERIFY(!laden || dateiSchreiben(name, "x"));
+        const Dialogfuehrer fuehrer(name, [&] {
+            QFile::remove(name);
+            QVERIFY(spalten[2] != "folder" || QDir().mkdir(name));
+        });
+        QVERIFY(QMetaObject::invokeMethod(&fenster, qPrintable(spalten[0])));
+        const QString text = "Es ist ein Fehler beim %1 der Datei:\n\n%2\n\naufgetreten!";
+        QCOMPARE(fuehrer.gezeigt.mid(5),
+                 QStringList({"Es ist ein Fehler aufgetreten!", text.arg(spalten[3], name)}));
+        QCOMPARE(fuehrer.eltern, QList<QWidget*>({&fenster, nullptr}));
+        QCOMPARE(fenster.UI_MPx->value(), laden ? -0.5 : beispiel()[Ganze]); // start picture
+        QCOMPARE(dateien(), QStringList());
     }
 
     void schreiben() {
         const QString name = pfad("datei");
         QVERIFY(dateiSchreiben(name, "eine lange Zeile"));
-        QVERIFY(dateiSchreiben(name, "kurz"));
-        QCOMPARE(bytesVon(name), QByteArray("kurz"));
         QVERIFY(QFile::link(name, pfad("verweis")));
-        QVERIFY(dateiSchreiben(pfad("verweis"), "neu"));
+        QVERIFY(dateiSchreiben(pfad("verweis"), "kurz"));
         QVERIFY(QFileInfo(pfad("verweis")).isSymLink());
-        QCOMPARE(bytesVon(name), QByteArray("neu"));
+        QCOMPARE(bytesVon(name), QByteArray("kurz"));
         QCOMPARE(dateien(), QStringList({"datei", "verweis"})); // nothing temporary is left
     }
 
@@ -401,7 +350,7 @@ class TestDateien : public QObject {
             fenster.OrbitListeHTM_SpeichernSlot();
         } while (dateien().size() > 1);
         const QString name = dateien().value(0);
-        QCOMPARE(name, mitZeit("OrbitWirbel1.5", "-yyyyMMdd-hh-mm-ss", ".htm", von, name));
+        QCOMPARE(name, mitZeit("'OrbitWirbel1.5-'yyyyMMdd-hh-mm-ss'.htm'", von, name));
         QCOMPARE(bytesVon(name), QByteArray("<html>größer</html><html>größer</html>"));
         ordner->remove(); // the working directory is gone, nothing can be made in it
         const Dialogfuehrer fuehrer("");

@@ -1,22 +1,19 @@
 #include "Meldung.h"
 #include "Texttabelle.h"
 
-#include <functional>
-
 namespace {
 
-/// The record's fields in its order, without fingerprints and quarter.
-const QString Ganze = "wahl_Gleichung g_ZwillingJa glg_Abbruch Max_Iterationen g_JuliaJa g_GenauJa "
-                      "g_oberesHalbbild g_zycmax g_MittelkreuzJa g_NullkreuzJa g_GitterJa";
-const QString Reelle = "Br_x MP_x MP_y wert_Abbruch Koppl_x Koppl_y g_Genauigkeit CJ_x CJ_y "
-                       "g_Bildverhaeltnis g_Gitterabstand";
-
-/// Every field has its own value, so that a swapped entry shows; n = 0: all are 0 as in an empty
-/// record.
+/// The fields of a record. Every field has its own value, so that a swapped entry shows; n = 0: all
+/// are 0 as in an empty record.
 QString werte(int n) {
+    const QString felder =
+        "wahl_Gleichung g_ZwillingJa glg_Abbruch Max_Iterationen g_JuliaJa g_GenauJa "
+        "g_oberesHalbbild g_zycmax g_MittelkreuzJa g_NullkreuzJa g_GitterJa Br_x MP_x MP_y "
+        "wert_Abbruch Koppl_x Koppl_y g_Genauigkeit CJ_x CJ_y g_Bildverhaeltnis g_Gitterabstand "
+        "bilddatenInteger bilddatenDouble bilddatenSumme";
     QString text;
     double wert = n;
-    for (const QString& feld : (Ganze + ' ' + Reelle).split(' ')) {
+    for (const QString& feld : felder.split(' ')) {
         text += QString("%1=%2 ").arg(feld).arg(n > 0 ? ++wert : 0);
     }
     return text;
@@ -29,30 +26,16 @@ class TestBildspeicher : public QObject {
 
     std::unique_ptr<M> m;
 
-    void fuelle(int n) {
-        setze(*m, werte(n));
-        m->bilddatenInteger = n;
-        m->bilddatenDouble = n / 2.0;
-        m->bilddatenSumme = n * 1.5;
-    }
-
-    void vergleiche(int n) {
-        QCOMPARE(abweichung(*m, werte(n)), QString());
-        QCOMPARE(m->bilddatenInteger, n);
-        QCOMPARE(m->bilddatenDouble, n / 2.0);
-        QCOMPARE(m->bilddatenSumme, n * 1.5);
-    }
-
     const std::map<char, std::function<void(int)>> befehle{
         {'v', [this](int n) { m->g_halbesBild = n; }},
-        {'f', [this](int n) { fuelle(n); }},
+        {'f', [this](int n) { setze(*m, werte(n)); }},
         {'s', [this](int) { m->DatenSichern(); }},
         {'t', [this](int) { m->DatenTeilbildLaden(); }},
         {'u',
          [this](int n) { n == 1 ? m->UnDo1DatenTeilbildLaden() : m->UnDo2DatenTeilbildLaden(); }},
         {'r', [this](int) { m->WiederholenDatenTeilbildLaden(); }},
         {'d', [this](int) { m->BildSicherungLoeschen(); }},
-        {'=', [this](int n) { vergleiche(n); }},
+        {'=', [this](int n) { QCOMPARE(abweichung(*m, werte(n)), QString()); }},
         {'!', [](int) {}}};
 
   private Q_SLOTS:
