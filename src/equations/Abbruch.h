@@ -8,8 +8,8 @@ class Mandelbrot;
 [[nodiscard]] bool abbruchBekannt(const Mandelbrot& m);
 
 /// The repairs with which every bailout test begins, lasting ones of the model: an unknown variant
-/// becomes 0; with a cycle search g_zycmax 0 becomes 7 and a
-/// number above 24 becomes 24. Sets g_GenauJa. Returns the variant in force.
+/// becomes 0; with a cycle search g_zycmax 0 becomes 7 and a number above 24 becomes 24. Sets
+/// g_GenauJa. Returns the variant in force.
 Abbruchart abbruchVorbereiten(const Mandelbrot& m);
 
 /// Measure of a cycle search after abbruchVorbereiten; also keeps (x, y) in the history. Gives
