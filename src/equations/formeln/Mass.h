@@ -34,7 +34,8 @@ template <class T>
 /// which is not 0.
 [[nodiscard, gnu::always_inline]] constexpr double laengenbetrag(qint32 farben, qint32 letzter,
                                                                  qint32 zyklus) noexcept {
-    return static_cast<double>((zyklus + 1) * (qint64{farben} / letzter) + 100);
+    const qint64 skalierung = qint64{farben} / letzter;
+    return static_cast<double>((zyklus + 1) * skalierung + 100);
 }
 
 /// Measure of the value (x, y), plane units to the measure's power. T is double or a vector of
