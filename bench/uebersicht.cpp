@@ -41,8 +41,6 @@ class Uebersicht {
                     "differ");
         tiefe();
         std::printf("\n");
-        einzelne();
-        std::printf("\n");
         alle();
     }
 
@@ -99,13 +97,6 @@ class Uebersicht {
                   m.glg_Abbruch = 1;
                   m.g_ZwillingJa = 0;
               }));
-    }
-
-    void einzelne() const {
-        for (const qint32 g :
-             {101, 201, 301, 401, 3, 4, 103, 203, 303, 403, 6, 5, 109, 309, 110, 209, 409}) {
-            zeile(QByteArray::number(g) + ", start picture", Messbild(g));
-        }
     }
 
     /// Several pictures together.
