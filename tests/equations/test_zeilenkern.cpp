@@ -196,8 +196,9 @@ constexpr unsigned long long ObereHaelften = 1ULL << 2; ///< AVX state in the co
 
 /// Puts the upper halves of the vector registers in use and leaves them so.
 [[gnu::noinline]] void halftenBelegen() {
-    asm volatile("vpcmpeqd %%xmm0, %%xmm0, %%xmm0\n\tvinsertf128 $1, %%xmm0, %%ymm0, %%ymm0" ::
-                     : "xmm0");
+    // The compiler knows of the lower half alone: it would clean up the whole register.
+    [[maybe_unused]] double unten;
+    asm volatile("vpcmpeqd %0, %0, %0\n\tvinsertf128 $1, %0, %t0, %t0" : "=x"(unten));
 }
 
 /// Which components of the processor's state are in use.
