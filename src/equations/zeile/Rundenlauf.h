@@ -68,7 +68,8 @@ class Rundenlauf final : public Rundenbasis<Satz, Formel, mitZwilling>,
     T betrag(const Stand<Zahl>& s) const override { return messen(herein(s)); }
 
     // The innermost loops are functions of their own with everything inlined: a call in them would
-    // pass every lane through memory, and around them too many values want a register.
+    // pass every lane through memory, which only the longest steps can bear, and around them too
+    // many values want a register.
 
     template <bool norm>
     [[gnu::flatten, gnu::noinline]] void durchlaufen(Buendel& b, const Schrittart& einer,
